@@ -1,0 +1,39 @@
+#ifndef LEXORIA_FORMTABLE_H
+#define LEXORIA_FORMTABLE_H
+
+#include <cstddef>
+
+namespace formtable {
+
+enum Kind { Label, PushButton, RadioButton, CheckBox, Frame, GroupBox, LineEdit, Lcd, Table, Widget };
+
+enum Flag {
+    Hidden = 1,
+    Disabled = 2,
+    Checkable = 4,
+    Checked = 8,
+    Center = 16, // text centred both ways
+    ScaledContents = 32,
+    RichText = 64,
+};
+
+// One widget of the main window's form, read by a loop in setupUi. A null parent is the
+// central widget; otherwise the parent is a row that stands earlier in the table.
+struct WidgetRow
+{
+    Kind kind;
+    const char *name;
+    const char *parent;
+    int x, y, w, h;
+    const char *text;
+    const char *style;
+    const char *toolTip;
+    int flags;
+};
+
+extern const WidgetRow mainFormRows[];
+extern const std::size_t mainFormRowCount;
+
+} // namespace formtable
+
+#endif

@@ -1,0 +1,188 @@
+#include "lexoria/lexoria.h"
+
+#include "lexoria/form.h"
+#include "lexoria/gamecatalogue.h"
+#include "lexoria/restyle.h"
+#include "windows/aboutwindow.h"
+#include "windows/exploreworld.h"
+#include "windows/instructions.h"
+#include "windows/openingwindow.h"
+#include "windows/selfexplore.h"
+#include "windows/ui_aboutwindow.h"
+#include "windows/ui_exploreworld.h"
+#include "windows/ui_instructions.h"
+#include "windows/ui_openingwindow.h"
+#include "windows/ui_selfexplore.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QTableWidget>
+
+#include <iterator>
+
+static void registerResources()
+{
+    Q_INIT_RESOURCE(resources);
+}
+
+void lexoria::initResources()
+{
+    registerResources();
+}
+
+lexoria::lexoria(QWidget *parent)
+    : QMainWindow(parent)
+    , ui(new Ui::lexoria)
+{
+    initResources();
+    ui->setupUi(this);
+    setFixedSize(size());
+
+    ui->rbForward_2->setChecked(true);
+    fillLetterList();
+    fillLabelList();
+    ui->labelOptions->lower();
+    ui->labelScoreboard->lower();
+    fillBgList();
+    fillShieldList();
+
+    connect(ui->pbQuit, &QPushButton::clicked, this, &QWidget::close);
+    connectGameControls();
+    connect(ui->helpButton, &QPushButton::clicked, this, &lexoria::showOW);
+
+    createSecondaryWindows();
+    ui->display3->show();
+    ui->wordList->hide();
+
+    ui->rbAll->setChecked(true);
+    gameIs(gamecatalogue::Everything);
+    ui->typeOfGame->setText(ui->table->item(4, 0)->text());
+    makeDirection(gamecatalogue::Forward);
+    for (int game = 0; game < int(std::size(gamecatalogue::games)); ++game) {
+        auto *button = ui->find<QPushButton>(QLatin1String(gamecatalogue::games[game].button));
+        connect(button, &QPushButton::clicked, this, [this, game] {
+            selectGame(game);
+            set_dem_Text();
+            set_dem_StyleSheet();
+        });
+    }
+    for (QWidget *hidden : std::initializer_list<QWidget *>{ui->rbAll, ui->rbConsonants, ui->groupBox,
+                                                           ui->gbPushButtons, ui->letCharBoth})
+        hidden->hide();
+    animationOn_function();
+    isKeyPressedAll();
+
+    ui->display3->raise();
+    hideShields();
+    ui->letterOfAlphabet2->raise();
+    for (QLabel *banner : {ui->circleFour, ui->circleOne, ui->circleThree, ui->circleTwo, ui->piclabel1})
+        banner->lower();
+    connect(ui->animationOff, &QPushButton::clicked, this, &lexoria::animationOff_function);
+    connect(ui->animationOn, &QPushButton::clicked, this, &lexoria::animationOn_function);
+    for (QLabel *shield : {ui->shieldConsonants, ui->shieldVarious, ui->shieldNumberLine, ui->shieldStart})
+        shield->raise();
+
+    // Faces under pictures under letters: lowering in list order leaves the faces lowest.
+    fillImgArray();
+    for (QLabel *image : qAsConst(keyImgLabels))
+        image->lower();
+    for (QLabel *face : qAsConst(keyBgLabels))
+        face->lower();
+
+    const QIcon flag(QStringLiteral(":/new/prefix1/russianFlag.gif"));
+    setWindowIcon(flag);
+    openingWin->setWindowIcon(flag);
+    instructionsWin->setWindowIcon(flag);
+
+    connect(ui->on, &QRadioButton::clicked, this, &lexoria::startCounter);
+    connect(ui->off, &QRadioButton::clicked, this, &lexoria::stopCounter);
+
+    loadDisplayNoneArray();
+    displayBoth();
+
+    ui->wallpaper->setStyleSheet(QStringLiteral("background-color: white; border:none; border-radius: 0px;"));
+    ui->wallpaper->lower();
+}
+
+lexoria::~lexoria()
+{
+    delete ui;
+}
+
+void lexoria::createSecondaryWindows()
+{
+    openingWin = new openingWindow(this);
+    openingWin->show();
+    instructionsWin = new instructions(this);
+    selfExploreWin = new selfExplore(this);
+    exploreWorldWin = new exploreWorld(this);
+    aboutWin = new aboutWindow(this);
+    connectSecondaryWindows();
+
+    const Qt::WindowFlags readingFlags = Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint;
+    for (QMainWindow *window : std::initializer_list<QMainWindow *>{instructionsWin, selfExploreWin,
+                                                                     exploreWorldWin, aboutWin})
+        window->setWindowFlags(readingFlags);
+}
+
+void lexoria::connectSecondaryWindows()
+{
+    auto opens = [this](QPushButton *button, QMainWindow *window) {
+        connect(button, &QPushButton::clicked, window, &QWidget::show);
+        connect(button, &QPushButton::clicked, openingWin, &QWidget::lower);
+        connect(button, &QPushButton::clicked, window, &QWidget::raise);
+    };
+    // Hiding and showing the opening window again brings it back to the front.
+    auto closesToFront = [this](QPushButton *button, QMainWindow *window) {
+        connect(button, &QPushButton::clicked, window, &QWidget::hide);
+        connect(button, &QPushButton::clicked, openingWin, &QWidget::hide);
+        connect(button, &QPushButton::clicked, openingWin, &QWidget::show);
+    };
+
+    opens(openingWin->ui->openInstructions, instructionsWin);
+    connect(instructionsWin->ui->mgExitButton, &QPushButton::clicked, instructionsWin, &QWidget::hide);
+    opens(openingWin->ui->owInstructionsForSE, selfExploreWin);
+    closesToFront(selfExploreWin->ui->seExitbutton, selfExploreWin);
+    opens(openingWin->ui->owExploreTheWorld, exploreWorldWin);
+    closesToFront(exploreWorldWin->ui->etwExitButton, exploreWorldWin);
+    opens(openingWin->ui->owAboutButton, aboutWin);
+    closesToFront(aboutWin->ui->awExitButton, aboutWin);
+
+    connect(openingWin->ui->startLearnRussianTyping, &QPushButton::clicked, this, &lexoria::openLexoria);
+    connect(openingWin->ui->startLearnRussianTyping, &QPushButton::clicked, openingWin, &QWidget::close);
+    connect(openingWin->ui->owExitPushButton, &QPushButton::clicked, openingWin, &QWidget::close);
+}
+
+void lexoria::openLexoria()
+{
+    show();
+    centerMainWindow();
+    for (QMainWindow *window : std::initializer_list<QMainWindow *>{instructionsWin, selfExploreWin,
+                                                                     exploreWorldWin, aboutWin})
+        window->close();
+}
+
+void lexoria::showOW()
+{
+    openingWin->show();
+}
+
+void lexoria::centerMainWindow()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
+    QRect frame = frameGeometry();
+    frame.moveCenter(screen->availableGeometry().center());
+    move(frame.topLeft());
+}
+
+void lexoria::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+}

@@ -1,0 +1,179 @@
+#ifndef LEXORIA_H
+#define LEXORIA_H
+
+#include "lexoria/stylepieces.h"
+
+#include <QList>
+#include <QMainWindow>
+#include <QPixmap>
+#include <QStringList>
+
+#include <array>
+
+class QLabel;
+class aboutWindow;
+class exploreWorld;
+class instructions;
+class openingWindow;
+class selfExplore;
+
+namespace Ui {
+class lexoria;
+}
+
+class lexoria : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit lexoria(QWidget *parent = nullptr);
+    ~lexoria() override;
+
+    // The resources live in a static library, so whoever shows a picture first registers them.
+    static void initResources();
+
+    Ui::lexoria *ui;
+
+public slots:
+    void openLexoria();
+    void showOW();
+    void centerMainWindow();
+
+    // The on-screen keyboard (letter number n 1..94)
+    void key(int n);
+    void changeColorBack(int n);
+    void allChangeColorBack();
+    void clearFocusEverywhere();
+    void numToString();
+    void letterOAlphabet();
+    void letterOAlphabetNone();
+    void phantomLablesShow();
+    void phantomLablesHide();
+    void displayBoth();
+
+    // Choosing a game and the alphabet bar's wave
+    void selectGame(int game);
+    void makeDirection(int direction);
+    void gameIs(int group);
+    void matchGameChooser();
+    void labelAnimate(int n);
+    void showShields();
+    void hideShields();
+    void animationOn_function();
+    void animationOff_function();
+    void set_dem_Text();
+    void set_dem_StyleSheet();
+
+    // Playing: start, stop, judging and the end of a game
+    void matchGameEnable();
+    void matchGameDisable();
+    void changeDifficultySoft();
+    void changeDifficultyStrict();
+    void forwardMG();
+    void reverseMG();
+    void forwardIsKeyPressed();
+    void reverseIsKeyPressed();
+    void forwardIsKeyPressed_CSS();
+    void reverseIsKeyPressed_CSS();
+    void isKeyPressedAll();
+    void clearUser();
+    void set_Match_StyleSheet();
+    void set_Match_StyleSheet_italic();
+    void set_User_StyleSheet_Uppercase();
+    void set_User_StyleSheet_Lowercase();
+
+    // Scoreboard, clock and the instructor
+    void clears();
+    void startCounter();
+    void stopCounter();
+    void instructorComment();
+    void wouldYouLikeToPlayAgain();
+    void clearGoodJob();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    void fillLetterList();
+    void fillLabelList();
+    void fillBgList();
+    void fillShieldList();
+    void fillImgArray();
+    void loadDisplayNoneArray();
+    void createSecondaryWindows();
+    void connectSecondaryWindows();
+    void connectGameControls();
+    void judgeEntry();
+    void finishGame(bool forward);
+    void commentOn(int index);
+    int currentGroup() const;
+    int letterNumberOfText(const QString &text) const;
+    QString fieldStyle(bool italic, const QString &font, const QString &colour) const;
+
+    const QString &fontPiece(int n) const;
+    const QString &colourPiece(int n) const;
+    bool rowPainted(int n) const;
+
+    QStringList letterList;
+    QList<QLabel *> barLabels;
+    QList<QLabel *> barBgLabels;
+    QList<QLabel *> keyLetterLabels;
+    QList<QLabel *> keyEnglishLabels;
+    QList<QLabel *> keyShields;
+    QList<QLabel *> keyBgLabels;
+    QList<QLabel *> keyImgLabels;
+    QList<QLabel *> keyPulseLabels;
+    QList<QLabel *> displayNoneLabels;
+    QList<QPixmap> instructorPixmaps;
+
+    StylePieces pieces;
+
+    // Keys painted one by one keep their own pieces, used while a layer's paint flag is on.
+    struct Painted
+    {
+        bool paintBackgroundOn = false;
+        bool paintBorderOn = false;
+        bool paintEnglishOn = false;
+        bool paintUpperOn = false;
+        bool paintLowerOn = false;
+        std::array<QString, 95> paintCharColor;
+        std::array<QString, 55> paintEnglishColor;
+        std::array<QString, 55> paintBgStyle;
+        std::array<QString, 55> paintBorderStyle;
+        QString paintUnderscoreLeftColor;
+        QString paintUnderscoreRightColor;
+    } painted;
+
+    bool gameRunning = false;
+    bool gameCompleted = false;
+    int gameLength = 94;
+    int correctCount = 0;
+    int incorrectCount = 0;
+    int forwardIndex = 0;
+    int reverseIndex = 93;
+    int randomIndex = 0;
+    int randomStopCount = 200;
+    int lastKeyIndex = 0;
+    std::array<bool, 95> letterDone {};
+    bool barAnimationOn = true;
+    QString letterNumberText;
+
+    int clockSeconds = 0;
+    int clockTimerId = 0;
+
+    int keyFlashMs = 300;
+    int barStepMs = 50;
+    int randomBarStepMs = 100;
+    int entryClearMs = 100;
+
+    openingWindow *openingWin = nullptr;
+    instructions *instructionsWin = nullptr;
+    selfExplore *selfExploreWin = nullptr;
+    exploreWorld *exploreWorldWin = nullptr;
+    aboutWindow *aboutWin = nullptr;
+};
+
+#endif
