@@ -80,17 +80,18 @@ void lexoria::selectGame(int index)
     ui->typeOfGame->setText(ui->table->item(game.captionRow, 0)->text());
 
     if (barAnimationOn) {
-        // Every shot is set now; the shields keep the buttons away until the last one.
+        // Every shot is set now; the shields keep the buttons away until the last one. Shots
+        // of two seconds and more would be coarse by default and could swap neighbours.
         showShields();
         if (game.direction == Random) {
             const int step = randomBarStepMs;
             const Wave wave = game.randomWave;
             for (std::size_t i = 1; i <= wave.count; ++i) {
                 const int n = wave.letters[i - 1];
-                QTimer::singleShot(int(i) * step, this, [this, n] { labelAnimate(n); });
-                QTimer::singleShot(int(i + 1) * step, this, [this, n] { changeColorBack(n); });
+                QTimer::singleShot(int(i) * step, Qt::PreciseTimer, this, [this, n] { labelAnimate(n); });
+                QTimer::singleShot(int(i + 1) * step, Qt::PreciseTimer, this, [this, n] { changeColorBack(n); });
             }
-            QTimer::singleShot(int(wave.count + 1) * step, this, &lexoria::hideShields);
+            QTimer::singleShot(int(wave.count + 1) * step, Qt::PreciseTimer, this, &lexoria::hideShields);
         } else {
             const GroupInfo &group = groups[game.group];
             const int length = group.gameLength;
@@ -98,10 +99,10 @@ void lexoria::selectGame(int index)
             for (int i = 1; i <= length; ++i) {
                 const int n = game.direction == Forward ? group.firstLetter + i - 1
                                                         : group.lastLetter - i + 1;
-                QTimer::singleShot(i * step, this, [this, n] { labelAnimate(n); });
-                QTimer::singleShot((length + i) * step, this, [this, n] { changeColorBack(n); });
+                QTimer::singleShot(i * step, Qt::PreciseTimer, this, [this, n] { labelAnimate(n); });
+                QTimer::singleShot((length + i) * step, Qt::PreciseTimer, this, [this, n] { changeColorBack(n); });
             }
-            QTimer::singleShot((2 * length + 1) * step, this, &lexoria::hideShields);
+            QTimer::singleShot((2 * length + 1) * step, Qt::PreciseTimer, this, &lexoria::hideShields);
         }
     }
 }
