@@ -72,6 +72,12 @@ void applyRow(QWidget *widget, const WidgetRow &row)
         label->setText(text);
         if (row.flags & Center)
             label->setAlignment(Qt::AlignCenter);
+        else if (row.flags & TopRight)
+            label->setAlignment(Qt::AlignRight | Qt::AlignTop);
+        else if (row.flags & BottomRight)
+            label->setAlignment(Qt::AlignRight | Qt::AlignBottom);
+        else if (row.flags & TopLeft)
+            label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         label->setScaledContents(row.flags & ScaledContents);
     } else if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
         button->setText(text);

@@ -47,6 +47,12 @@ class QTableWidget;
     X(QLabel, dem1)                                                                               \
     X(QLabel, dem6)                                                                               \
     X(QLabel, dem2)                                                                               \
+    X(QLabel, aKeysMap5)                                                                          \
+    X(QLabel, labelInstructionsLeft)                                                              \
+    X(QLabel, labelInstructionsRight)                                                             \
+    X(QPushButton, aKeysMap)                                                                      \
+    X(QPushButton, buttonInstructionsLeft)                                                        \
+    X(QPushButton, buttonInstructionsRight)                                                       \
     X(QPushButton, pbQuit)                                                                        \
     X(QPushButton, helpButton)                                                                    \
     X(QPushButton, hideNonVitals)                                                                 \

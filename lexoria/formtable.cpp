@@ -10,6 +10,7 @@ constexpr const char *circle = "background-color: rgb(0, 94, 0); color: white; b
                                " font: bold 14pt \"MS Shell Dlg 2\";";
 constexpr const char *instructorWords = "font: 10pt \"MS Shell Dlg 2\"; color: #6e6e6e;"
                                         " background-color: white;";
+constexpr const char *small = "color: black; font: 7pt \"MS Shell Dlg 2\";";
 constexpr const char *randomTip = "Random order\nStops when there are 200 correct entries";
 } // namespace
 
@@ -45,7 +46,7 @@ const WidgetRow mainFormRows[] = {
     {PushButton, "pbReverseVarious", nullptr, 26, 394, 30, 25, "Z", "", "Reverse order", 0},
     {PushButton, "pbRandomVarious", nullptr, 54, 394, 50, 25, "sq", "", randomTip, 0},
     {PushButton, "pbForwardVarious", nullptr, 102, 394, 30, 25, "[", "", "Forward order", 0},
-    {Label, "rNumberLinePlus", nullptr, 4, 454, 150, 20, "Number Line Plus+", "", "", 0},
+    {Label, "rNumberLinePlus", nullptr, 4, 454, 180, 20, "Number Line Plus+", "", "", 0},
     {PushButton, "pbReverseNumberLine", nullptr, 26, 474, 30, 25, "Z", "",
      "Number line plus special characters\nReverse order", 0},
     {PushButton, "pbRandomNumberLine", nullptr, 54, 474, 50, 25, "sq", "",
@@ -156,6 +157,28 @@ const WidgetRow mainFormRows[] = {
     {RadioButton, "keyFlash", "frame_37", 104, 24, 80, 20, "Flash", "", "", 0},
     {Label, "letterOfAlphabet2", nullptr, 714, 232, 141, 23, "",
      "font: 10pt \"MS Shell Dlg 2\"; color: #6e6e6e;", "", 0},
+
+    // A key's map: a sample key that tells where the characters of a key sit
+    {Label, "aKeysMap5", nullptr, 1111, 404, 54, 54, "", "", "", 0},
+    {Label, "aKeysMap2", nullptr, 1111, 404, 54, 54, "Я ",
+     "color: white; font: 13.5pt \"arial unicode ms\";", "", TopRight},
+    {Label, "aKeysMap3", nullptr, 1111, 404, 54, 54, "я ",
+     "color: white; font: 14pt \"arial unicode ms\";", "", BottomRight},
+    {Label, "aKeysMap4", nullptr, 1111, 402, 54, 54, " Z", "color: white; font: 20px \"Calibri\";", "",
+     TopLeft},
+    {Label, "aKeysMapShift", nullptr, 1172, 406, 35, 13, "Shift", small, "", 0},
+    {Label, "aKeysMapNormal", nullptr, 1172, 437, 35, 13, "Normal", small, "", 0},
+    {Label, "aKeysMapText", nullptr, 1110, 455, 61, 16, "A key's map", small, "", 0},
+    {PushButton, "aKeysMap", nullptr, 1164, 379, 41, 16, "<", "", "Hides \"A key's map\"", 0},
+
+    // Instruction panes beside the keyboard
+    {Label, "labelInstructionsLeft", nullptr, 6, 546, 89, 101,
+     "Keyboard entry\nlights up\nkeyboard &\nAlphabet Bar.", caption, "", 0},
+    {PushButton, "buttonInstructionsLeft", nullptr, 10, 522, 41, 16, "<", "", "Hides instructions", 0},
+    {Label, "labelInstructionsRight", nullptr, 1110, 528, 95, 117,
+     "Mouse over\nRussian\nAlphabet Bar\nor keyboard to\nfind its match", caption, "", 0},
+    {PushButton, "buttonInstructionsRight", nullptr, 1164, 512, 41, 16, "<", "", "Hides insturctions",
+     0},
 
     // Frame buttons
     {PushButton, "pbQuit", nullptr, 2, 662, 46, 30, "X", "", "", 0},

@@ -235,3 +235,26 @@ void lexoria::keyReleaseEvent(QKeyEvent *event)
         changeColorBack(released.lower);
     }
 }
+
+void lexoria::aKeysMap_function()
+{
+    aKeysMapShown = !aKeysMapShown;
+    for (const char *name : {"aKeysMapNormal", "aKeysMapShift", "aKeysMapText", "aKeysMap2",
+                             "aKeysMap3", "aKeysMap4", "aKeysMap5"})
+        ui->widget(QLatin1String(name))->setVisible(aKeysMapShown);
+    ui->aKeysMap->setText(aKeysMapShown ? QStringLiteral("<") : QStringLiteral(">>>"));
+}
+
+void lexoria::hideInsLeft()
+{
+    insLeftShown = !insLeftShown;
+    ui->labelInstructionsLeft->setVisible(insLeftShown);
+    ui->buttonInstructionsLeft->setText(insLeftShown ? QStringLiteral("<") : QStringLiteral(">>>"));
+}
+
+void lexoria::hideInsRight()
+{
+    insRightShown = !insRightShown;
+    ui->labelInstructionsRight->setVisible(insRightShown);
+    ui->buttonInstructionsRight->setText(insRightShown ? QStringLiteral("<") : QStringLiteral(">>>"));
+}

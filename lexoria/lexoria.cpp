@@ -2,6 +2,7 @@
 
 #include "lexoria/form.h"
 #include "lexoria/gamecatalogue.h"
+#include "lexoria/keycatalogue.h"
 #include "lexoria/restyle.h"
 #include "windows/aboutwindow.h"
 #include "windows/exploreworld.h"
@@ -57,6 +58,10 @@ lexoria::lexoria(QWidget *parent)
 
     createSecondaryWindows();
     ui->display3->show();
+    connect(ui->buttonInstructionsRight, &QPushButton::clicked, this, &lexoria::hideInsRight);
+    connect(ui->buttonInstructionsLeft, &QPushButton::clicked, this, &lexoria::hideInsLeft);
+    ui->buttonInstructionsRight->raise();
+    ui->buttonInstructionsLeft->raise();
     ui->wordList->hide();
 
     ui->rbAll->setChecked(true);
@@ -94,6 +99,8 @@ lexoria::lexoria(QWidget *parent)
     for (QLabel *face : qAsConst(keyBgLabels))
         face->lower();
 
+    connect(ui->aKeysMap, &QPushButton::clicked, this, &lexoria::aKeysMap_function);
+
     const QIcon flag(QStringLiteral(":/new/prefix1/russianFlag.gif"));
     setWindowIcon(flag);
     openingWin->setWindowIcon(flag);
@@ -104,6 +111,12 @@ lexoria::lexoria(QWidget *parent)
 
     loadDisplayNoneArray();
     displayBoth();
+    // The control keys and the sample key carry no letter, so no restore ever paints them;
+    // they take the rest look of the keys once here.
+    const QString restFace = pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle;
+    for (int k = keycatalogue::characterKeyCount; k < keycatalogue::paintKeyCount; ++k)
+        restyle(keyBgLabels[k], restFace);
+    restyle(ui->aKeysMap5, restFace);
 
     ui->wallpaper->setStyleSheet(QStringLiteral("background-color: white; border:none; border-radius: 0px;"));
     ui->wallpaper->lower();

@@ -50,6 +50,9 @@ public slots:
     void phantomLablesShow();
     void phantomLablesHide();
     void displayBoth();
+    void aKeysMap_function();
+    void hideInsLeft();
+    void hideInsRight();
 
     // Choosing a game and the alphabet bar's wave
     void selectGame(int game);
@@ -160,6 +163,9 @@ private:
     std::array<bool, 95> letterDone {};
     bool barAnimationOn = true;
     QString letterNumberText;
+    bool insRightShown = true;
+    bool insLeftShown = true;
+    bool aKeysMapShown = true;
 
     int clockSeconds = 0;
     int clockTimerId = 0;
