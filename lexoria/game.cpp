@@ -286,13 +286,7 @@ void lexoria::forwardMG()
             ++incorrectCount;
         }
     }
-    if (correctCount == gameLength && gameRunning) {
-        finishGame(true);
-    } else if (correctCount != gameLength) {
-        QTimer::singleShot(entryClearMs, this, &lexoria::clearUser);
-        ui->labelCorrect->setNum(correctCount);
-        ui->labelIncorrect->setNum(incorrectCount);
-    }
+    closeEntry(true);
 }
 
 void lexoria::reverseMG()
@@ -312,8 +306,14 @@ void lexoria::reverseMG()
             ++incorrectCount;
         }
     }
+    closeEntry(false);
+}
+
+// Runs after every judged entry, right, wrong or not judged at all.
+void lexoria::closeEntry(bool forward)
+{
     if (correctCount == gameLength && gameRunning) {
-        finishGame(false);
+        finishGame(forward);
     } else if (correctCount != gameLength) {
         QTimer::singleShot(entryClearMs, this, &lexoria::clearUser);
         ui->labelCorrect->setNum(correctCount);

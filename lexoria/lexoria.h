@@ -110,6 +110,7 @@ private:
     void connectSecondaryWindows();
     void connectGameControls();
     void judgeEntry();
+    void closeEntry(bool forward);
     void finishGame(bool forward);
     void commentOn(int index);
     int currentGroup() const;

@@ -38,6 +38,8 @@ private slots:
     void keyLayersStackFacesUnderLetters();
     void keyboardAndBarGeometry();
     void windowIsFixedAndHelpShowsOpeningWindow();
+    void panesHideAndShow_data();
+    void panesHideAndShow();
     void exitOnOpeningWindowEndsProgram();
 
 private:
@@ -314,6 +316,33 @@ void tst_Keyboard::windowIsFixedAndHelpShowsOpeningWindow()
     window->findChild<QPushButton *>("helpButton")->click();
     QVERIFY(opening->isVisible());
     QVERIFY(window->isVisible());
+}
+
+void tst_Keyboard::panesHideAndShow_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QStringList>("panes");
+
+    QTest::newRow("left instructions") << "buttonInstructionsLeft" << QStringList{"labelInstructionsLeft"};
+    QTest::newRow("right instructions") << "buttonInstructionsRight" << QStringList{"labelInstructionsRight"};
+    QTest::newRow("a key's map") << "aKeysMap"
+                                 << QStringList{"aKeysMap2", "aKeysMap3", "aKeysMap4", "aKeysMap5",
+                                                "aKeysMapShift", "aKeysMapNormal", "aKeysMapText"};
+}
+
+void tst_Keyboard::panesHideAndShow()
+{
+    QFETCH(QString, button);
+    QFETCH(QStringList, panes);
+
+    window->openLexoria();
+    auto *toggle = window->findChild<QPushButton *>(button);
+    for (bool shown : {false, true}) {
+        toggle->click();
+        QCOMPARE(toggle->text(), shown ? QString("<") : QString(">>>"));
+        for (const QString &pane : panes)
+            QCOMPARE(label(pane)->isVisible(), shown);
+    }
 }
 
 void tst_Keyboard::exitOnOpeningWindowEndsProgram()
