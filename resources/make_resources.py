@@ -3,14 +3,18 @@
 
 Run with Debian's interpreter, which has Pillow (python3-pil):
 
-    /usr/bin/python3 resources/make_resources.py
+    /usr/bin/python3 resources/make_resources.py [--keep-screens]
 
 It rewrites resources/files/, resources/resources.qrc and resources/contact_sheet.png.
+The screenshots it draws are stand-ins: vortic-screens replaces those it can photograph
+from the running program, and --keep-screens leaves any screenshot already in
+resources/files/ as it is.
 The output depends only on this script, Pillow and the DejaVu fonts: every random
 choice comes from a fixed seed and no file carries a time stamp, so a rerun gives
 the same bytes.
 """
 
+import argparse
 import colorsys
 import functools
 import math
@@ -1917,6 +1921,13 @@ def P(fn, *args, **kw):
     return lambda: fn(*args, **kw)
 
 
+def S(fn, *args, **kw):
+    """A stand-in for a screenshot of the program, which vortic-screens may have replaced."""
+    painter = P(fn, *args, **kw)
+    painter.screenshot = True
+    return painter
+
+
 SOUNDS = [  # name, seconds, synthesiser
     ("bark.wav", 0.209, snd_bark),
     ("bubble2.wav", 0.366, snd_bubble),
@@ -1976,13 +1987,13 @@ FLAG = [(0, (255, 255, 255)), (0.34, (235, 240, 255)), (0.35, (60, 110, 230)),
 MAIN_BAR = (140, 262, 1068, 390)
 MAIN_KEYBOARD = (138, 386, 1062, 692)
 
-PICTURES = [  # name, painter
+PICTURES = [  # name, painter (S: the stand-in for a screenshot)
     ("alphaAndShadows.png", P(word_art, 240, 60, "Alpha & Shadows", stops=PURPLES,
                               outline=(255, 255, 255), shadow=0.8, fill_alpha=170)),
-    ("alphabetBar.png", P(shot, MAIN_BAR)),
-    ("AlphabetBarFinished.png", P(shot, MAIN_BAR, done=20)),
+    ("alphabetBar.png", S(shot, MAIN_BAR)),
+    ("AlphabetBarFinished.png", S(shot, MAIN_BAR, done=20)),
     ("alphaChannel.png", P(alpha_channel_picture, 160, 48)),
-    ("animation.png", P(shot, (340, 206, 430, 254))),
+    ("animation.png", S(shot, (340, 206, 430, 254))),
     ("arrow2.png", P(big_arrow, 55, 63, "down", (255, 120, 90), (200, 0, 0))),
     ("arrowDown.png", P(big_arrow, 32, 40, "down", (120, 190, 255), (20, 60, 200),
                         (0, 20, 80))),
@@ -1991,13 +2002,13 @@ PICTURES = [  # name, painter
     ("bottomLeft1.png", P(dial_arrow, 30, 30, "bottomleft", "lit")),
     ("bottomLeftPix.png", P(corner_picture, 40, 30, "bottomleft")),
     ("bottomRightPix.png", P(corner_picture, 40, 30, "bottomright")),
-    ("bridge1.png", P(shot, (130, 440, 520, 575), bridges=(0,))),
-    ("bridge2.png", P(shot, (130, 500, 520, 635), bridges=(1,))),
-    ("cantFindIt.png", P(shot, (864, 0, 999, 114), lit=4, game=True)),
+    ("bridge1.png", S(shot, (130, 440, 520, 575), bridges=(0,))),
+    ("bridge2.png", S(shot, (130, 500, 520, 635), bridges=(1,))),
+    ("cantFindIt.png", S(shot, (864, 0, 999, 114), lit=4, game=True)),
     ("chdown.png", P(instructor_picture, 144, 115, 0)),
     ("chmiddle.png", P(instructor_picture, 144, 115, 1)),
     ("chup.png", P(instructor_picture, 144, 115, 2)),
-    ("circleKey.png", P(key_picture, 54, 54, radius=27)),
+    ("circleKey.png", S(key_picture, 54, 54, radius=27)),
     ("clickKeyToSet.png", P(click_key_picture, 170, 40)),
     ("clickThis.png", P(caption_with_arrow, 90, 50, "Click this", "down")),
     ("colorMadnessKeySmall.png", P(menu_heading, 136, 32, "Color Madness", RAINBOW,
@@ -2007,9 +2018,9 @@ PICTURES = [  # name, painter
     ("colorPicker.png", P(colour_picker_picture, 45, 45)),
     ("cp.png", P(palette_picture, 40, 32)),
     ("cpKeyBg.png", P(key_bg_picker_picture, 45, 45)),
-    ("currentGame.png", P(shot, (196, 134, 430, 252))),
+    ("currentGame.png", S(shot, (196, 134, 430, 252))),
     ("digRight.png", P(dial_arrow, 30, 30, "bottomright", "thin")),
-    ("directionButtons.PNG", P(shot, (0, 226, 140, 280))),
+    ("directionButtons.PNG", S(shot, (0, 226, 140, 280))),
     ("down.PNG", P(dial_arrow, 30, 30, "down")),
     ("downleft.PNG", P(dial_arrow, 30, 30, "bottomleft", "thin")),
     ("downleft1.png", P(dial_arrow, 30, 30, "bottomleft", "lit")),
@@ -2022,38 +2033,38 @@ PICTURES = [  # name, painter
                           outline=(60, 0, 0))),
     ("fonts3.png", P(word_art, 278, 50, "Fonts", kind="serif", stops=BLUES, outline=(0, 0, 60),
                      slant=0.2)),
-    ("gamePlay.png", P(shot, (466, 124, 1000, 254), game=True)),
-    ("gamePlay3.png", P(in_game_fields, 228, 114)),
+    ("gamePlay.png", S(shot, (466, 124, 1000, 254), game=True)),
+    ("gamePlay3.png", S(in_game_fields, 228, 114)),
     ("glasses.png", P(glasses_picture, 64, 36)),
-    ("grayedOut.png", P(shot, MAIN_KEYBOARD, scale=0.5, grey=True)),
-    ("help.png", P(shot, (1114, 654, 1211, 695))),
-    ("hideNonVitals.PNG", P(shot, (998, 668, 1054, 695))),
+    ("grayedOut.png", S(shot, MAIN_KEYBOARD, scale=0.5, grey=True)),
+    ("help.png", S(shot, (1114, 654, 1211, 695))),
+    ("hideNonVitals.PNG", S(shot, (998, 668, 1054, 695))),
     ("highlight.png", P(key_picture, 54, 54, face=GOLD, eng_ink=BLACK, rus_ink=BLACK)),
     ("includeHeader.png", P(include_header_picture, 150, 100)),
-    ("insLeft.png", P(shot, (2, 540, 100, 652))),
-    ("insRight.png", P(shot, (1104, 522, 1210, 650))),
+    ("insLeft.png", S(shot, (2, 540, 100, 652))),
+    ("insRight.png", S(shot, (1104, 522, 1210, 650))),
     ("installedThemes.png", P(word_art, 240, 40, "Installed Themes", stops=PURPLES,
                               outline=(40, 0, 60))),
     ("Instructions.png", P(word_art, 278, 50, "Instructions", stops=BLUES, outline=(0, 0, 50))),
     ("key.png", P(key_picture, 54, 54)),
-    ("keyboard.png", P(shot, MAIN_KEYBOARD)),
+    ("keyboard.png", S(shot, MAIN_KEYBOARD)),
     ("keyFinished.png", P(key_picture, 54, 54, face=FINISHED_GREY)),
     ("keyPress.png", P(key_picture, 54, 54, eng_ink=(60, 120, 255), rus_ink=(60, 120, 255),
                        border=(60, 120, 255))),
     ("left.PNG", P(dial_arrow, 30, 30, "left")),
-    ("lineHigh1.png", P(shot, (390, 440, 620, 640), lines="over", highlight="D", game=True)),
-    ("lineHigh2.png", P(shot, (390, 440, 620, 640), lines="under", highlight="D", game=True)),
-    ("Lines.png", P(shot, MAIN_KEYBOARD, scale=0.6, lines="over", highlight="D", game=True)),
-    ("mainScreen.png", P(main_screen_map)),
+    ("lineHigh1.png", S(shot, (390, 440, 620, 640), lines="over", highlight="D", game=True)),
+    ("lineHigh2.png", S(shot, (390, 440, 620, 640), lines="under", highlight="D", game=True)),
+    ("Lines.png", S(shot, MAIN_KEYBOARD, scale=0.6, lines="over", highlight="D", game=True)),
+    ("mainScreen.png", S(main_screen_map)),
     ("mouse1.png", P(mouse_picture, 32, 40)),
     ("mouse2.png", P(mouse_picture, 32, 40, pressed=True, waves=True)),
     ("mouseOver.png", P(key_picture, 54, 54, face=GOLD, eng_ink=(0, 0, 255), rus_ink=(0, 0, 255),
                         extra=mouse_over_extra)),
     ("multiCharacters.png", P(key_picture, 108, 108, english="S", upper="Ы", lower="ы")),
     ("open.png", P(folder_picture, 32, 28)),
-    ("options.png", P(shot, (996, 10, 1211, 261))),
-    ("optionsClosed.png", P(shot, (1002, 36, 1100, 114))),
-    ("optionsMain.png", P(options_menu, 142, 695)),
+    ("options.png", S(shot, (996, 10, 1211, 261))),
+    ("optionsClosed.png", S(shot, (1002, 36, 1100, 114))),
+    ("optionsMain.png", S(options_menu, 142, 695)),
     ("paint.png", P(paint_brush_picture, 40, 40)),
     ("paintKey.png", P(key_picture, 54, 54, face=(120, 0, 160), eng_ink=(255, 230, 0),
                        rus_ink=(0, 255, 200), extra=paint_key_extra)),
@@ -2061,28 +2072,28 @@ PICTURES = [  # name, painter
     ("picturesSmall.png", P(menu_heading, 136, 32, "Pictures", GOLDEN, icon_photo)),
     ("playLabel.png", P(speaker_picture, 24, 24)),
     ("push.png", P(push_button_picture, 44, 44)),
-    ("quit.png", P(shot, (0, 656, 52, 695))),
+    ("quit.png", S(shot, (0, 656, 52, 695))),
     ("right.PNG", P(dial_arrow, 30, 30, "right")),
     ("russianNosferatu.png", P(word_art, 414, 122, "Russian", kind="serif", stops=FLAG,
                                outline=(20, 10, 40), outline_w=0.05, slant=0.22, shadow=0.6)),
     ("save.png", P(disk_picture, 30, 30)),
     ("saveFile.png", P(word_art, 200, 40, "Save / Open", stops=BLUES, outline=(0, 0, 50))),
-    ("scoreboard.png", P(shot, (0, 2, 187, 212), game=True)),
+    ("scoreboard.png", S(shot, (0, 2, 187, 212), game=True)),
     ("Shadows2.png", P(word_art, 278, 50, "Shadows", stops=[(0, (200, 200, 210)),
                                                             (1, (90, 90, 110))],
                        outline=(20, 20, 30), shadow=1.0)),
     ("shadowsFinal.png", P(menu_heading, 136, 32, "Shadows", [(0, (200, 200, 210)),
                                                               (1, (70, 70, 90))], icon_shadow)),
     ("smallNote.png", P(note_picture, 20, 20)),
-    ("sof.png", P(shot, (636, 0, 844, 114), soft=True)),
+    ("sof.png", S(shot, (636, 0, 844, 114), soft=True)),
     ("soundEffects.png", P(word_art, 278, 50, "Sound Effects", stops=REDS, outline=(50, 0, 0))),
     ("soundEffects1.png", P(menu_heading, 136, 32, "Sounds", REDS, icon_note)),
-    ("squareKey.png", P(key_picture, 54, 54, radius=4)),
-    ("start1.png", P(shot, (188, 0, 411, 114), lit=1)),
-    ("start2.png", P(shot, (426, 0, 613, 114), lit=2)),
-    ("start3.png", P(shot, (632, 0, 844, 114), lit=3)),
-    ("start4.png", P(shot, (188, 0, 999, 114))),
-    ("strick.png", P(shot, (636, 0, 844, 114), soft=False)),
+    ("squareKey.png", S(key_picture, 54, 54, radius=4)),
+    ("start1.png", S(shot, (188, 0, 411, 114), lit=1)),
+    ("start2.png", S(shot, (426, 0, 613, 114), lit=2)),
+    ("start3.png", S(shot, (632, 0, 844, 114), lit=3)),
+    ("start4.png", S(shot, (188, 0, 999, 114))),
+    ("strick.png", S(shot, (636, 0, 844, 114), soft=False)),
     ("topleft.PNG", P(dial_arrow, 30, 30, "topleft")),
     ("topleft1.png", P(dial_arrow, 30, 30, "topleft", "lit")),
     ("topLeftPix.png", P(corner_picture, 40, 30, "topleft")),
@@ -2131,6 +2142,11 @@ def contact_sheet(items):
 
 
 def main():
+    parser = argparse.ArgumentParser(description="Draws the resource collection.")
+    parser.add_argument("--keep-screens", action="store_true",
+                        help="keep the screenshots already in files/ instead of drawing stand-ins")
+    args = parser.parse_args()
+
     os.makedirs(OUT, exist_ok=True)
     names = [n for n, *_ in SOUNDS] + [n for n, *_ in GIFS] + [n for n, _ in PICTURES]
     if len(names) != len(set(names)) or len(names) != 143:
@@ -2151,9 +2167,16 @@ def main():
         with Image.open(os.path.join(OUT, name)) as first:
             sheet_items.append((name, first.convert("RGBA")))
 
+    kept = 0
     for name, painter in PICTURES:
+        path = os.path.join(OUT, name)
+        if args.keep_screens and getattr(painter, "screenshot", False) and os.path.exists(path):
+            with Image.open(path) as screen:
+                sheet_items.append((name, screen.convert("RGBA")))
+            kept += 1
+            continue
         im = painter()
-        save_png(os.path.join(OUT, name), im)
+        save_png(path, im)
         sheet_items.append((name, im))
 
     with open(QRC, "w", encoding="utf-8", newline="\n") as f:
@@ -2167,7 +2190,8 @@ def main():
     sheet_items.sort(key=lambda item: item[0].lower())
     save_png(SHEET, contact_sheet(sheet_items))
     total = sum(os.path.getsize(os.path.join(OUT, n)) for n in names)
-    print("%d files, %.1f KiB" % (len(names), total / 1024.0))
+    print("%d files, %.1f KiB" % (len(names), total / 1024.0)
+          + (", %d screenshots kept" % kept if kept else ""))
 
 
 if __name__ == "__main__":
