@@ -10,6 +10,8 @@ constexpr const char *circle = "background-color: rgb(0, 94, 0); color: white; b
                                " font: bold 14pt \"MS Shell Dlg 2\";";
 constexpr const char *instructorWords = "font: 10pt \"MS Shell Dlg 2\"; color: #6e6e6e;"
                                         " background-color: white;";
+constexpr const char *checkMark = "color: rgb(0, 0, 255); font: 9pt \"MS Shell Dlg 2\";";
+constexpr const char *pane = "color: black; font: 8pt \"MS Shell Dlg 2\";";
 constexpr const char *small = "color: black; font: 7pt \"MS Shell Dlg 2\";";
 constexpr const char *randomTip = "Random order\nStops when there are 200 correct entries";
 } // namespace
@@ -150,11 +152,27 @@ const WidgetRow mainFormRows[] = {
 
     // Keyboard options
     {Label, "labelOptions", nullptr, 1000, 14, 209, 243, "", panel, "", 0},
+    {Label, "lettersDisplayed", nullptr, 1000, 128, 203, 16, " Letters Displayed", caption, "", 0},
+    {Label, "rcNone", nullptr, 1006, 158, 28, 28, "", "background-color: black;",
+     "Hides English and Russian characters", 0},
+    {Label, "rcRussian", nullptr, 1060, 158, 28, 28, "Я ", "", "Displays Russian characters", TopRight},
+    {Label, "rcEnglish", nullptr, 1120, 158, 28, 28, " Z", "", "Displays English characters", TopLeft},
+    {Label, "rc11", nullptr, 1172, 158, 28, 28, "Я ", "", "", TopRight},
+    {Label, "rcBoth", nullptr, 1172, 158, 28, 28, " Z", "", "Displays English and Russian characters",
+     TopLeft},
+    {Label, "none", nullptr, 998, 186, 42, 15, "None", caption, "", Center},
+    {Label, "russian2", nullptr, 1042, 186, 66, 15, "Russian", caption, "", Center},
+    {Label, "english", nullptr, 1110, 186, 48, 15, "English", caption, "", Center},
+    {Label, "both", nullptr, 1168, 186, 37, 15, "Both", caption, "", Center},
+    {Label, "checkNone", nullptr, 1014, 144, 14, 16, "√", checkMark, "", 0},
+    {Label, "checkRussian", nullptr, 1068, 144, 14, 16, "√", checkMark, "", 0},
+    {Label, "checkEnglish", nullptr, 1128, 144, 14, 16, "√", checkMark, "", 0},
+    {Label, "checkBoth", nullptr, 1180, 144, 14, 16, "√", checkMark, "", 0},
     {Frame, "frame_37", nullptr, 1004, 200, 200, 50, "", "", "", 0},
     {Label, "lettersDisplayed_13", "frame_37", 6, 2, 64, 16, "Keypress", caption, "", 0},
     {Label, "lettersDisplayed_12", "frame_37", 70, 2, 90, 16, "Color Timer", caption, "", 0},
-    {RadioButton, "keyConstant", "frame_37", 6, 24, 90, 20, "Constant", "", "", Checked},
-    {RadioButton, "keyFlash", "frame_37", 104, 24, 80, 20, "Flash", "", "", 0},
+    {RadioButton, "keyConstant", "frame_37", 4, 24, 104, 20, "Constant", "", "", Checked},
+    {RadioButton, "keyFlash", "frame_37", 112, 24, 80, 20, "Flash", "", "", 0},
     {Label, "letterOfAlphabet2", nullptr, 714, 232, 141, 23, "",
      "font: 10pt \"MS Shell Dlg 2\"; color: #6e6e6e;", "", 0},
 
@@ -173,10 +191,10 @@ const WidgetRow mainFormRows[] = {
 
     // Instruction panes beside the keyboard
     {Label, "labelInstructionsLeft", nullptr, 6, 546, 89, 101,
-     "Keyboard entry\nlights up\nkeyboard &\nAlphabet Bar.", caption, "", 0},
+     "Keyboard entry\nlights up\nkeyboard &\nAlphabet Bar.", pane, "", 0},
     {PushButton, "buttonInstructionsLeft", nullptr, 10, 522, 41, 16, "<", "", "Hides instructions", 0},
     {Label, "labelInstructionsRight", nullptr, 1110, 528, 95, 117,
-     "Mouse over\nRussian\nAlphabet Bar\nor keyboard to\nfind its match", caption, "", 0},
+     "Mouse over\nRussian\nAlphabet Bar\nor keyboard to\nfind its match", pane, "", 0},
     {PushButton, "buttonInstructionsRight", nullptr, 1164, 512, 41, 16, "<", "", "Hides insturctions",
      0},
 

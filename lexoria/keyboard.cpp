@@ -201,6 +201,14 @@ void lexoria::displayBoth()
         letter->show();
     for (int k = 0; k < characterKeyCount; ++k)
         keyEnglishLabels[k]->show();
+    showDisplayMark("checkBoth");
+}
+
+// The mode of the letters on the keys is held by nothing but which check mark shows.
+void lexoria::showDisplayMark(const char *mark)
+{
+    for (const char *each : {"checkNone", "checkRussian", "checkEnglish", "checkBoth"})
+        ui->widget(QLatin1String(each))->setVisible(qstrcmp(each, mark) == 0);
 }
 
 void lexoria::keyPressEvent(QKeyEvent *event)

@@ -117,6 +117,7 @@ private:
     int letterNumberOfText(const QString &text) const;
     QString fieldStyle(bool italic, const QString &font, const QString &colour) const;
 
+    void showDisplayMark(const char *mark);
     const QString &fontPiece(int n) const;
     const QString &colourPiece(int n) const;
     bool rowPainted(int n) const;
