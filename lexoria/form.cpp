@@ -27,8 +27,18 @@ struct GameCaption
 };
 
 constexpr GameCaption gameCaptions[] = {
-    {1, "А - Я"}, {2, "а - я"},  {3, "1 - /"},  {4, "а - /"},  {6, "Я - А"},  {7, "я - а"},
-    {8, "/ - 1"}, {9, "/ - а"}, {11, "Ж Ы Н"}, {12, "х я й"}, {13, "№ 9 !"}, {14, "э Я )"},
+    {1, "А - Я"},
+    {2, "а - я"},
+    {3, "1 - /"},
+    {4, "а - /"},
+    {6, "Я - А"},
+    {7, "я - а"},
+    {8, "/ - 1"},
+    {9, "/ - а"},
+    {11, "Ж Ы Н"},
+    {12, "х я й"},
+    {13, "№ 9 !"},
+    {14, "э Я )"},
 };
 
 QWidget *makeWidget(Kind kind, QWidget *parent)
@@ -104,7 +114,7 @@ void applyRow(QWidget *widget, const WidgetRow &row)
 }
 
 QLabel *keyLabel(QWidget *parent, const QString &name, const QRect &rect, const QString &text = {},
-                 Qt::Alignment alignment = {})
+    Qt::Alignment alignment = {})
 {
     auto *label = new QLabel(text, parent);
     label->setObjectName(name);
@@ -136,7 +146,8 @@ QRect pulseRect(int number)
 QString keyLetterRule(int n)
 {
     const char *size = (n == 55) ? "16pt" : (n <= 33 && n != 22) ? "14pt" : "13.5pt";
-    return QStringLiteral("QLabel#r%1_2 { background-color: transparent; font: %2 \"arial unicode ms\"; }\n")
+    return QStringLiteral(
+        "QLabel#r%1_2 { background-color: transparent; font: %2 \"arial unicode ms\"; }\n")
         .arg(n)
         .arg(QLatin1String(size));
 }
@@ -146,21 +157,41 @@ QString keyLetterRule(int n)
 QString lexoriaWindowStyleSheet()
 {
     static const char *roundedFrames[] = {
-        "frameFonts", "frameVorticKeyboard", "tableOfContents", "frameShadows",
-        "frameFinishedImages", "frameFade", "framePhotos", "frameGamePlayS", "frameGamePlayS_2",
-        "frameGamePlayCM", "frameHideBg", "frameKeyShape", "frame_29", "frame_30", "frame_32",
-        "frame_33", "frame_34", "frame_35", "frame_10", "frameAudio", "frameLinehighlight",
+        "frameFonts",
+        "frameVorticKeyboard",
+        "tableOfContents",
+        "frameShadows",
+        "frameFinishedImages",
+        "frameFade",
+        "framePhotos",
+        "frameGamePlayS",
+        "frameGamePlayS_2",
+        "frameGamePlayCM",
+        "frameHideBg",
+        "frameKeyShape",
+        "frame_29",
+        "frame_30",
+        "frame_32",
+        "frame_33",
+        "frame_34",
+        "frame_35",
+        "frame_10",
+        "frameAudio",
+        "frameLinehighlight",
     };
     QString sheet;
     for (const char *frame : roundedFrames)
         sheet += QStringLiteral("QFrame#%1{  border-radius:  15px;  border:1px solid black;}\n")
                      .arg(QLatin1String(frame));
     sheet += "QTabWidget#tabWidget{  border-radius:  15px;  border:1px solid black;}\n";
-    sheet += "QLabel { font-size: 20px; background-color: transparent; color: white; "
-             "border-width: 1px; border-color: black; border-radius: 10px; font-family: Calibri; }\n";
+    sheet
+        += "QLabel { font-size: 20px; background-color: transparent; color: white; "
+           "border-width: 1px; border-color: black; border-radius: 10px; font-family: Calibri; }\n";
     sheet += "QLabel#wallpaper{ border:none; border-radius: 0px; }\n";
-    for (const char *heading : {"rEverything", "rUppercase", "rLowercase", "rNumberLinePlus", "rVowels"})
-        sheet += QStringLiteral("QLabel#%1{ color: blue; font: 10.5pt \"MS Shell Dlg 2\"; font-weight: bold; }\n")
+    for (const char *heading :
+        {"rEverything", "rUppercase", "rLowercase", "rNumberLinePlus", "rVowels"})
+        sheet += QStringLiteral(
+            "QLabel#%1{ color: blue; font: 10.5pt \"MS Shell Dlg 2\"; font-weight: bold; }\n")
                      .arg(QLatin1String(heading));
     for (const char *group : {"All", "Consonants", "Various", "NumberLine", "Vowels_2"}) {
         sheet += QStringLiteral("QPushButton#pbForward%1{ font: 18pt \"Wingdings 3\"; }\n"
@@ -169,14 +200,17 @@ QString lexoriaWindowStyleSheet()
                      .arg(QLatin1String(group));
     }
     sheet += "QPushButton{ text-align: center; font: 9pt \"MS Shell Dlg 2\"; }\n";
-    for (const char *field : {"QLineEdit#leMatch", "QLineEdit#leUser", "QLabel#labelCorrect", "QLabel#labelIncorrect"})
-        sheet += QStringLiteral("%1{ border: 2px solid grey; background-color: white; color: black; }\n")
+    for (const char *field :
+        {"QLineEdit#leMatch", "QLineEdit#leUser", "QLabel#labelCorrect", "QLabel#labelIncorrect"})
+        sheet += QStringLiteral(
+            "%1{ border: 2px solid grey; background-color: white; color: black; }\n")
                      .arg(QLatin1String(field));
     for (int k = 1; k <= characterKeyCount; ++k)
         sheet += QStringLiteral("QLabel#bg%1{ background-color: black; }\n").arg(k);
     for (int n = 1; n <= letterCount; ++n) {
-        sheet += QStringLiteral("QLabel#r%1 { background-color: transparent; color: rgb(255, 255, 255); "
-                                "font: 13.5pt \"arial unicode ms\"; }\n")
+        sheet += QStringLiteral(
+            "QLabel#r%1 { background-color: transparent; color: rgb(255, 255, 255); "
+            "font: 13.5pt \"arial unicode ms\"; }\n")
                      .arg(n);
         sheet += keyLetterRule(n);
     }
@@ -227,7 +261,7 @@ void lexoria::buildAlphabetBar(QWidget *central)
         QLabel *background = keyLabel(central, QStringLiteral("r%1bg").arg(n), cell);
         background->setStyleSheet(QStringLiteral("background-color: black;"));
         QLabel *letter = keyLabel(central, QStringLiteral("r%1").arg(n), cell, letterText(n),
-                                  Qt::AlignHCenter | Qt::AlignBottom);
+            Qt::AlignHCenter | Qt::AlignBottom);
         letter->setMargin(barMargin(n));
         byName.insert(background->objectName(), background);
         byName.insert(letter->objectName(), letter);
@@ -241,32 +275,33 @@ void lexoria::buildKeyboard(QWidget *central)
 
     for (const char *layer : {"bg", "img"}) {
         for (int k = 1; k <= characterKeyCount; ++k)
-            add(keyLabel(central, QStringLiteral("%1%2").arg(QLatin1String(layer)).arg(k), keyRect(k)));
+            add(keyLabel(
+                central, QStringLiteral("%1%2").arg(QLatin1String(layer)).arg(k), keyRect(k)));
         for (const ControlKey &key : controlKeys)
             add(keyLabel(central, QLatin1String(layer) + QLatin1String(key.suffix),
-                         QRect(key.x, key.y, key.w, key.h)));
+                QRect(key.x, key.y, key.w, key.h)));
     }
     for (int n = 1; n <= letterCount; ++n) {
         const Qt::Alignment rowAlignment = isUpperRow(n) ? Qt::AlignTop : Qt::AlignBottom;
         add(keyLabel(central, QStringLiteral("r%1_2").arg(n), keyLetterRect(n), keyLetterText(n),
-                     Qt::AlignRight | Qt::AlignTrailing | rowAlignment));
+            Qt::AlignRight | Qt::AlignTrailing | rowAlignment));
     }
     for (int k = 1; k <= characterKeyCount; ++k)
         add(keyLabel(central, QStringLiteral("r%1_3").arg(k), keyRect(k), keyEnglishText(k),
-                     Qt::AlignLeft | Qt::AlignTop));
+            Qt::AlignLeft | Qt::AlignTop));
     for (const ControlKey &key : controlKeys)
         add(keyLabel(central, QLatin1String("label") + QLatin1String(key.suffix),
-                     QRect(key.x, key.y, key.w, key.h), QString::fromLatin1(key.caption),
-                     Qt::AlignLeft | Qt::AlignTop));
+            QRect(key.x, key.y, key.w, key.h), QString::fromLatin1(key.caption),
+            Qt::AlignLeft | Qt::AlignTop));
     add(keyLabel(central, QStringLiteral("underscore_left"), keyRect(6), QStringLiteral(" _"),
-                 Qt::AlignHCenter | Qt::AlignBottom));
+        Qt::AlignHCenter | Qt::AlignBottom));
     add(keyLabel(central, QStringLiteral("underscore_right"), keyRect(10), QStringLiteral("_ "),
-                 Qt::AlignHCenter | Qt::AlignBottom));
+        Qt::AlignHCenter | Qt::AlignBottom));
     for (int number = 1; number <= paintKeyCount; ++number)
         add(keyLabel(central, QStringLiteral("pulsate%1").arg(number), pulseRect(number)));
     for (int number = 1; number <= paintKeyCount; ++number) {
-        QLabel *cover = keyLabel(central, QStringLiteral("displayNone%1").arg(number),
-                                 paintKeyRect(number));
+        QLabel *cover
+            = keyLabel(central, QStringLiteral("displayNone%1").arg(number), paintKeyRect(number));
         cover->setStyleSheet(QStringLiteral("background-color: rgb(0, 0, 0);"));
         add(cover);
     }

@@ -2,8 +2,8 @@
 #define LEXORIA_FORM_H
 
 #include <QHash>
-#include <QWidget>
 #include <QString>
+#include <QWidget>
 
 class QCheckBox;
 class QFrame;
@@ -18,68 +18,68 @@ class QTableWidget;
 
 // The widgets the code talks to by name. Families (bg<k>, r<n>_2 …) are reached through the
 // lists of the main window instead; every widget can also be found with widget(name).
-#define LEXORIA_NAMED_WIDGETS(X)                                                                  \
-    X(QLabel, wallpaper)                                                                          \
-    X(QLabel, labelScoreboard)                                                                    \
-    X(QLabel, labelOptions)                                                                       \
-    X(QLabel, letterOfAlphabet2)                                                                  \
-    X(QLabel, piclabel1)                                                                          \
-    X(QLabel, display2)                                                                           \
-    X(QLabel, display3)                                                                           \
-    X(QLabel, underscore_left)                                                                    \
-    X(QLabel, underscore_right)                                                                   \
-    X(QLabel, labelCorrect)                                                                       \
-    X(QLabel, labelIncorrect)                                                                     \
-    X(QLabel, displaySoft)                                                                        \
-    X(QLabel, displayStrict)                                                                      \
-    X(QLabel, type)                                                                               \
-    X(QLabel, direction)                                                                          \
-    X(QLabel, typeOfGame)                                                                         \
-    X(QLabel, shieldEverything)                                                                   \
-    X(QLabel, shieldConsonants)                                                                   \
-    X(QLabel, shieldVarious)                                                                      \
-    X(QLabel, shieldNumberLine)                                                                   \
-    X(QLabel, shieldStart)                                                                        \
-    X(QLabel, circleOne)                                                                          \
-    X(QLabel, circleTwo)                                                                          \
-    X(QLabel, circleThree)                                                                        \
-    X(QLabel, circleFour)                                                                         \
-    X(QLabel, dem1)                                                                               \
-    X(QLabel, dem6)                                                                               \
-    X(QLabel, dem2)                                                                               \
-    X(QLabel, aKeysMap5)                                                                          \
-    X(QLabel, labelInstructionsLeft)                                                              \
-    X(QLabel, labelInstructionsRight)                                                             \
-    X(QPushButton, aKeysMap)                                                                      \
-    X(QPushButton, buttonInstructionsLeft)                                                        \
-    X(QPushButton, buttonInstructionsRight)                                                       \
-    X(QPushButton, pbQuit)                                                                        \
-    X(QPushButton, helpButton)                                                                    \
-    X(QPushButton, hideNonVitals)                                                                 \
-    X(QPushButton, start)                                                                         \
-    X(QPushButton, stop)                                                                          \
-    X(QPushButton, soft)                                                                          \
-    X(QPushButton, strict)                                                                        \
-    X(QPushButton, animationOn)                                                                   \
-    X(QPushButton, animationOff)                                                                  \
-    X(QRadioButton, keyConstant)                                                                  \
-    X(QRadioButton, keyFlash)                                                                     \
-    X(QRadioButton, rbForward_2)                                                                  \
-    X(QRadioButton, rbReverse_2)                                                                  \
-    X(QRadioButton, rbRandom_2)                                                                   \
-    X(QRadioButton, rbAll)                                                                        \
-    X(QRadioButton, rbVarious)                                                                    \
-    X(QRadioButton, rbConsonants)                                                                 \
-    X(QRadioButton, rbNumberLine)                                                                 \
-    X(QRadioButton, on)                                                                           \
-    X(QRadioButton, off)                                                                          \
-    X(QGroupBox, groupBox)                                                                        \
-    X(QGroupBox, letCharBoth)                                                                     \
-    X(QGroupBox, wordList)                                                                        \
-    X(QGroupBox, gbPushButtons)                                                                   \
-    X(QLineEdit, leMatch)                                                                         \
-    X(QLineEdit, leUser)                                                                          \
-    X(QLCDNumber, lcd)                                                                            \
+#define LEXORIA_NAMED_WIDGETS(X)                                                                   \
+    X(QLabel, wallpaper)                                                                           \
+    X(QLabel, labelScoreboard)                                                                     \
+    X(QLabel, labelOptions)                                                                        \
+    X(QLabel, letterOfAlphabet2)                                                                   \
+    X(QLabel, piclabel1)                                                                           \
+    X(QLabel, display2)                                                                            \
+    X(QLabel, display3)                                                                            \
+    X(QLabel, underscore_left)                                                                     \
+    X(QLabel, underscore_right)                                                                    \
+    X(QLabel, labelCorrect)                                                                        \
+    X(QLabel, labelIncorrect)                                                                      \
+    X(QLabel, displaySoft)                                                                         \
+    X(QLabel, displayStrict)                                                                       \
+    X(QLabel, type)                                                                                \
+    X(QLabel, direction)                                                                           \
+    X(QLabel, typeOfGame)                                                                          \
+    X(QLabel, shieldEverything)                                                                    \
+    X(QLabel, shieldConsonants)                                                                    \
+    X(QLabel, shieldVarious)                                                                       \
+    X(QLabel, shieldNumberLine)                                                                    \
+    X(QLabel, shieldStart)                                                                         \
+    X(QLabel, circleOne)                                                                           \
+    X(QLabel, circleTwo)                                                                           \
+    X(QLabel, circleThree)                                                                         \
+    X(QLabel, circleFour)                                                                          \
+    X(QLabel, dem1)                                                                                \
+    X(QLabel, dem6)                                                                                \
+    X(QLabel, dem2)                                                                                \
+    X(QLabel, aKeysMap5)                                                                           \
+    X(QLabel, labelInstructionsLeft)                                                               \
+    X(QLabel, labelInstructionsRight)                                                              \
+    X(QPushButton, aKeysMap)                                                                       \
+    X(QPushButton, buttonInstructionsLeft)                                                         \
+    X(QPushButton, buttonInstructionsRight)                                                        \
+    X(QPushButton, pbQuit)                                                                         \
+    X(QPushButton, helpButton)                                                                     \
+    X(QPushButton, hideNonVitals)                                                                  \
+    X(QPushButton, start)                                                                          \
+    X(QPushButton, stop)                                                                           \
+    X(QPushButton, soft)                                                                           \
+    X(QPushButton, strict)                                                                         \
+    X(QPushButton, animationOn)                                                                    \
+    X(QPushButton, animationOff)                                                                   \
+    X(QRadioButton, keyConstant)                                                                   \
+    X(QRadioButton, keyFlash)                                                                      \
+    X(QRadioButton, rbForward_2)                                                                   \
+    X(QRadioButton, rbReverse_2)                                                                   \
+    X(QRadioButton, rbRandom_2)                                                                    \
+    X(QRadioButton, rbAll)                                                                         \
+    X(QRadioButton, rbVarious)                                                                     \
+    X(QRadioButton, rbConsonants)                                                                  \
+    X(QRadioButton, rbNumberLine)                                                                  \
+    X(QRadioButton, on)                                                                            \
+    X(QRadioButton, off)                                                                           \
+    X(QGroupBox, groupBox)                                                                         \
+    X(QGroupBox, letCharBoth)                                                                      \
+    X(QGroupBox, wordList)                                                                         \
+    X(QGroupBox, gbPushButtons)                                                                    \
+    X(QLineEdit, leMatch)                                                                          \
+    X(QLineEdit, leUser)                                                                           \
+    X(QLCDNumber, lcd)                                                                             \
     X(QTableWidget, table)
 
 namespace Ui {
@@ -90,8 +90,7 @@ public:
     void setupUi(QMainWindow *window);
 
     QWidget *widget(const QString &name) const { return byName.value(name); }
-    template<class T>
-    T *find(const QString &name) const
+    template <class T> T *find(const QString &name) const
     {
         return qobject_cast<T *>(widget(name));
     }

@@ -5,7 +5,18 @@
 
 namespace formtable {
 
-enum Kind { Label, PushButton, RadioButton, CheckBox, Frame, GroupBox, LineEdit, Lcd, Table, Widget };
+enum Kind {
+    Label,
+    PushButton,
+    RadioButton,
+    CheckBox,
+    Frame,
+    GroupBox,
+    LineEdit,
+    Lcd,
+    Table,
+    Widget
+};
 
 enum Flag {
     Hidden = 1,
@@ -14,9 +25,9 @@ enum Flag {
     Checked = 8,
     Center = 16, // text centred both ways
     ScaledContents = 32,
-    TopRight = 64,    // where a key shows its upper-row letter
+    TopRight = 64, // where a key shows its upper-row letter
     BottomRight = 128, // and its lower-row letter
-    TopLeft = 256,     // and its English label
+    TopLeft = 256, // and its English label
 };
 
 // One widget of the main window's form, read by a loop in setupUi. A null parent is the

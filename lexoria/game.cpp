@@ -39,8 +39,8 @@ void lexoria::connectGameControls()
 
     ui->labelCorrect->setAlignment(Qt::AlignCenter);
     ui->labelIncorrect->setAlignment(Qt::AlignCenter);
-    ui->labelCorrect->setStyleSheet(normalScore);
-    ui->labelIncorrect->setStyleSheet(normalScore);
+    restyle(ui->labelCorrect, normalScore);
+    restyle(ui->labelIncorrect, normalScore);
 }
 
 int lexoria::currentGroup() const
@@ -88,10 +88,13 @@ void lexoria::selectGame(int index)
             const Wave wave = game.randomWave;
             for (std::size_t i = 1; i <= wave.count; ++i) {
                 const int n = wave.letters[i - 1];
-                QTimer::singleShot(int(i) * step, Qt::PreciseTimer, this, [this, n] { labelAnimate(n); });
-                QTimer::singleShot(int(i + 1) * step, Qt::PreciseTimer, this, [this, n] { changeColorBack(n); });
+                QTimer::singleShot(
+                    int(i) * step, Qt::PreciseTimer, this, [this, n] { labelAnimate(n); });
+                QTimer::singleShot(
+                    int(i + 1) * step, Qt::PreciseTimer, this, [this, n] { changeColorBack(n); });
             }
-            QTimer::singleShot(int(wave.count + 1) * step, Qt::PreciseTimer, this, &lexoria::hideShields);
+            QTimer::singleShot(
+                int(wave.count + 1) * step, Qt::PreciseTimer, this, &lexoria::hideShields);
         } else {
             const GroupInfo &group = groups[game.group];
             const int length = group.gameLength;
@@ -99,38 +102,42 @@ void lexoria::selectGame(int index)
             for (int i = 1; i <= length; ++i) {
                 const int n = game.direction == Forward ? group.firstLetter + i - 1
                                                         : group.lastLetter - i + 1;
-                QTimer::singleShot(i * step, Qt::PreciseTimer, this, [this, n] { labelAnimate(n); });
-                QTimer::singleShot((length + i) * step, Qt::PreciseTimer, this, [this, n] { changeColorBack(n); });
+                QTimer::singleShot(
+                    i * step, Qt::PreciseTimer, this, [this, n] { labelAnimate(n); });
+                QTimer::singleShot(
+                    (length + i) * step, Qt::PreciseTimer, this, [this, n] { changeColorBack(n); });
             }
-            QTimer::singleShot((2 * length + 1) * step, Qt::PreciseTimer, this, &lexoria::hideShields);
+            QTimer::singleShot(
+                (2 * length + 1) * step, Qt::PreciseTimer, this, &lexoria::hideShields);
         }
     }
 }
 
 void lexoria::labelAnimate(int n)
 {
-    restyle(barLabels[n - 1], QStringLiteral("background-color: black; color:blue;") + fontPiece(n));
+    restyle(
+        barLabels[n - 1], QStringLiteral("background-color: black; color:blue;") + fontPiece(n));
 }
 
 void lexoria::showShields()
 {
     for (QLabel *shield : {ui->shieldEverything, ui->shieldConsonants, ui->shieldVarious,
-                           ui->shieldNumberLine, ui->shieldStart})
+             ui->shieldNumberLine, ui->shieldStart})
         shield->show();
 }
 
 void lexoria::hideShields()
 {
     for (QLabel *shield : {ui->shieldEverything, ui->shieldConsonants, ui->shieldVarious,
-                           ui->shieldNumberLine, ui->shieldStart})
+             ui->shieldNumberLine, ui->shieldStart})
         shield->hide();
 }
 
 void lexoria::animationOn_function()
 {
     barAnimationOn = true;
-    ui->animationOn->setStyleSheet(QStringLiteral("color:  blue;"));
-    ui->animationOff->setStyleSheet(QStringLiteral("color: black;"));
+    restyle(ui->animationOn, QStringLiteral("color:  blue;"));
+    restyle(ui->animationOff, QStringLiteral("color: black;"));
     ui->animationOn->setChecked(true);
     ui->animationOff->setChecked(false);
 }
@@ -138,8 +145,8 @@ void lexoria::animationOn_function()
 void lexoria::animationOff_function()
 {
     barAnimationOn = false;
-    ui->animationOn->setStyleSheet(QStringLiteral("color: black;"));
-    ui->animationOff->setStyleSheet(QStringLiteral("color: blue;"));
+    restyle(ui->animationOn, QStringLiteral("color: black;"));
+    restyle(ui->animationOff, QStringLiteral("color: blue;"));
     ui->animationOff->setChecked(true);
     ui->animationOn->setChecked(false);
 }
@@ -169,9 +176,10 @@ void lexoria::set_dem_Text()
 
 void lexoria::set_dem_StyleSheet()
 {
-    const QString &font = currentGroup() == Uppercase ? pieces.upperFontStyle : pieces.lowerFontStyle;
-    const QString finished = pieces.demRadiusStyle + pieces.finishedBgStyle + pieces.finishedColorStyle
-        + pieces.demoLowerFontStyle;
+    const QString &font
+        = currentGroup() == Uppercase ? pieces.upperFontStyle : pieces.lowerFontStyle;
+    const QString finished = pieces.demRadiusStyle + pieces.finishedBgStyle
+        + pieces.finishedColorStyle + pieces.demoLowerFontStyle;
     QString sheet = finished + font;
     const int shown = letterNumberOfText(ui->leMatch->text());
     if (shown >= 1 && shown <= 3)
@@ -186,8 +194,8 @@ void lexoria::changeDifficultySoft()
 {
     ui->soft->setChecked(true);
     ui->strict->setChecked(false);
-    ui->soft->setStyleSheet(QStringLiteral("color: blue;"));
-    ui->strict->setStyleSheet(QStringLiteral("color: black;"));
+    restyle(ui->soft, QStringLiteral("color: blue;"));
+    restyle(ui->strict, QStringLiteral("color: black;"));
     ui->displaySoft->show();
     ui->displayStrict->hide();
 }
@@ -196,8 +204,8 @@ void lexoria::changeDifficultyStrict()
 {
     ui->strict->setChecked(true);
     ui->soft->setChecked(false);
-    ui->strict->setStyleSheet(QStringLiteral("color: blue;"));
-    ui->soft->setStyleSheet(QStringLiteral("color: black;"));
+    restyle(ui->strict, QStringLiteral("color: blue;"));
+    restyle(ui->soft, QStringLiteral("color: black;"));
     ui->displayStrict->show();
     ui->displaySoft->hide();
 }
@@ -208,8 +216,8 @@ void lexoria::matchGameEnable()
     gameCompleted = false;
     set_Match_StyleSheet();
     gameRunning = true;
-    ui->labelCorrect->setStyleSheet(normalScore);
-    ui->labelIncorrect->setStyleSheet(normalScore);
+    restyle(ui->labelCorrect, normalScore);
+    restyle(ui->labelIncorrect, normalScore);
     clears();
     ui->leMatch->setEnabled(true);
     ui->leUser->setEnabled(true);
@@ -218,12 +226,14 @@ void lexoria::matchGameEnable()
     displayBoth();
     ui->display3->clear();
     ui->display3->hide();
-    ui->start->setStyleSheet(QStringLiteral("font-size: 16pt; font-family: 'MS Shell Dlg 2'; color: rgb(0, 94, 0);"));
-    ui->stop->setStyleSheet(QStringLiteral("font-size: 16pt; font-family: 'MS Shell Dlg 2';  color: black;"));
+    restyle(ui->start,
+        QStringLiteral("font-size: 16pt; font-family: 'MS Shell Dlg 2'; color: rgb(0, 94, 0);"));
+    restyle(
+        ui->stop, QStringLiteral("font-size: 16pt; font-family: 'MS Shell Dlg 2';  color: black;"));
     barAnimationOn = false;
     for (QPushButton *button : {ui->animationOff, ui->animationOn}) {
         button->setEnabled(false);
-        button->setStyleSheet(greyedOut);
+        restyle(button, greyedOut);
     }
     instructorComment();
     ui->underscore_left->show();
@@ -251,10 +261,12 @@ void lexoria::matchGameDisable()
     ui->animationOff->setEnabled(true);
     ui->animationOn->setEnabled(true);
     barAnimationOn = true;
-    ui->animationOff->setStyleSheet(QStringLiteral("color: black;"));
-    ui->animationOn->setStyleSheet(QStringLiteral("color: blue;"));
-    ui->start->setStyleSheet(QStringLiteral("font-size: 16pt; font-family: 'MS Shell Dlg 2'; color: black;"));
-    ui->stop->setStyleSheet(QStringLiteral("font-size: 16pt; font-family: 'MS Shell Dlg 2';  color: maroon;"));
+    restyle(ui->animationOff, QStringLiteral("color: black;"));
+    restyle(ui->animationOn, QStringLiteral("color: blue;"));
+    restyle(
+        ui->start, QStringLiteral("font-size: 16pt; font-family: 'MS Shell Dlg 2'; color: black;"));
+    restyle(ui->stop,
+        QStringLiteral("font-size: 16pt; font-family: 'MS Shell Dlg 2';  color: maroon;"));
 }
 
 void lexoria::judgeEntry()
@@ -336,8 +348,8 @@ void lexoria::finishGame(bool forward)
     changeColorBack(last);
 
     stopCounter();
-    ui->labelCorrect->setStyleSheet(italicScore);
-    ui->labelIncorrect->setStyleSheet(italicScore);
+    restyle(ui->labelCorrect, italicScore);
+    restyle(ui->labelIncorrect, italicScore);
 }
 
 void lexoria::forwardIsKeyPressed()
@@ -357,8 +369,8 @@ void lexoria::reverseIsKeyPressed()
     if (n < 1 || n > keycatalogue::letterCount)
         return;
     letterDone[n] = true;
-    restyle(barLabels[n - 1], pieces.barRadiusStyle + pieces.finishedBgStyle
-                                  + pieces.finishedColorStyle + fontPiece(n));
+    restyle(barLabels[n - 1],
+        pieces.barRadiusStyle + pieces.finishedBgStyle + pieces.finishedColorStyle + fontPiece(n));
 }
 
 void lexoria::forwardIsKeyPressed_CSS()
@@ -448,8 +460,8 @@ void lexoria::clears()
     stopCounter();
     ui->lcd->display(0);
     ui->display2->clear();
-    ui->labelCorrect->setStyleSheet(normalScore);
-    ui->labelIncorrect->setStyleSheet(normalScore);
+    restyle(ui->labelCorrect, normalScore);
+    restyle(ui->labelIncorrect, normalScore);
     ui->animationOff->setEnabled(true);
     ui->animationOn->setEnabled(true);
     barAnimationOn = true;

@@ -16,11 +16,11 @@ using namespace keycatalogue;
 
 namespace {
 
-const char *const controlSuffixes[] = {"CapsLock", "Spacebar", "Enter", "ShiftRight",
-                                       "ShiftLeft", "BackSpace", "Tab"};
+const char *const controlSuffixes[]
+    = {"CapsLock", "Spacebar", "Enter", "ShiftRight", "ShiftLeft", "BackSpace", "Tab"};
 
 QList<QLabel *> labelFamily(const Ui::lexoria *ui, const QString &pattern, int count,
-                            const char *prefixOfControls = nullptr)
+    const char *prefixOfControls = nullptr)
 {
     QList<QLabel *> labels;
     labels.reserve(prefixOfControls ? paintKeyCount : count);
@@ -28,7 +28,8 @@ QList<QLabel *> labelFamily(const Ui::lexoria *ui, const QString &pattern, int c
         labels.append(ui->find<QLabel>(pattern.arg(i)));
     if (prefixOfControls) {
         for (const char *suffix : controlSuffixes)
-            labels.append(ui->find<QLabel>(QLatin1String(prefixOfControls) + QLatin1String(suffix)));
+            labels.append(
+                ui->find<QLabel>(QLatin1String(prefixOfControls) + QLatin1String(suffix)));
     }
     return labels;
 }
@@ -40,7 +41,8 @@ void lexoria::fillLetterList()
     for (int n = 1; n <= letterCount; ++n)
         letterList.append(ui->find<QLabel>(QStringLiteral("r%1").arg(n))->text());
     for (const char *pose : {"chdown", "chmiddle", "chup"})
-        instructorPixmaps.append(QPixmap(QStringLiteral(":/new/prefix1/%1.png").arg(QLatin1String(pose))));
+        instructorPixmaps.append(
+            QPixmap(QStringLiteral(":/new/prefix1/%1.png").arg(QLatin1String(pose))));
     ui->piclabel1->setPixmap(instructorPixmaps.first());
 }
 
@@ -108,7 +110,8 @@ bool lexoria::rowPainted(int n) const
 void lexoria::numToString()
 {
     ui->letterOfAlphabet2->clear();
-    ui->letterOfAlphabet2->setText(QStringLiteral("Letter-number: ") + QString::number(lastKeyIndex + 1));
+    ui->letterOfAlphabet2->setText(
+        QStringLiteral("Letter-number: ") + QString::number(lastKeyIndex + 1));
 }
 
 void lexoria::letterOAlphabet()
@@ -130,14 +133,14 @@ void lexoria::key(int n)
         letterNumberText = QString::number(n - 33);
         letterOAlphabet();
     }
-    restyle(barBgLabels[n - 1], pieces.barRadiusStyle
-                                    + (letterDone[n] ? pieces.finishedBgStyle : pieces.keypressBgStyle));
+    restyle(barBgLabels[n - 1],
+        pieces.barRadiusStyle + (letterDone[n] ? pieces.finishedBgStyle : pieces.keypressBgStyle));
     const QString letter = pieces.keypressRussianColorStyle + fontPiece(n);
     restyle(barLabels[n - 1], letter);
     restyle(keyLetterLabels[n - 1], letter);
     restyle(keyEnglishLabels[k - 1], pieces.keypressEnglishColorStyle + pieces.englishFontStyle);
     restyle(keyBgLabels[k - 1],
-            pieces.keyRadiusStyle + pieces.keypressBgStyle + pieces.keypressBorderStyle);
+        pieces.keyRadiusStyle + pieces.keypressBgStyle + pieces.keypressBorderStyle);
     if (ui->keyFlash->isChecked())
         QTimer::singleShot(keyFlashMs, this, [this, n] { changeColorBack(n); });
 }
@@ -151,30 +154,32 @@ void lexoria::changeColorBack(int n)
         restyle(barBgLabels[n - 1], pieces.barRadiusStyle + pieces.finishedBgStyle);
         restyle(barLabels[n - 1], pieces.finishedColorStyle + font);
     } else {
-        restyle(barBgLabels[n - 1], pieces.barRadiusStyle
-                                        + (painted.paintBackgroundOn ? painted.paintBgStyle[k]
-                                                                     : pieces.keysBgStyle));
+        restyle(barBgLabels[n - 1],
+            pieces.barRadiusStyle
+                + (painted.paintBackgroundOn ? painted.paintBgStyle[k] : pieces.keysBgStyle));
         restyle(barLabels[n - 1], letterColour + font);
     }
     restyle(keyLetterLabels[n - 1], letterColour + font);
 
-    const QString &english = painted.paintEnglishOn ? painted.paintEnglishColor[k] : pieces.englishColorStyle;
+    const QString &english
+        = painted.paintEnglishOn ? painted.paintEnglishColor[k] : pieces.englishColorStyle;
     restyle(keyEnglishLabels[k - 1], english + pieces.englishFontStyle);
     if (k == 6) {
-        restyle(ui->underscore_left, (painted.paintEnglishOn ? painted.paintUnderscoreLeftColor
-                                                              : pieces.englishColorStyle)
-                                         + pieces.englishFontStyle);
+        restyle(ui->underscore_left,
+            (painted.paintEnglishOn ? painted.paintUnderscoreLeftColor : pieces.englishColorStyle)
+                + pieces.englishFontStyle);
     } else if (k == 10) {
-        restyle(ui->underscore_right, (painted.paintEnglishOn ? painted.paintUnderscoreRightColor
-                                                               : pieces.englishColorStyle)
-                                          + pieces.englishFontStyle);
+        restyle(ui->underscore_right,
+            (painted.paintEnglishOn ? painted.paintUnderscoreRightColor : pieces.englishColorStyle)
+                + pieces.englishFontStyle);
     }
 
     if (painted.paintBackgroundOn || painted.paintBorderOn)
         restyle(keyBgLabels[k - 1],
-                pieces.keyRadiusStyle + painted.paintBgStyle[k] + painted.paintBorderStyle[k]);
+            pieces.keyRadiusStyle + painted.paintBgStyle[k] + painted.paintBorderStyle[k]);
     else
-        restyle(keyBgLabels[k - 1], pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle);
+        restyle(keyBgLabels[k - 1],
+            pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle);
 }
 
 void lexoria::allChangeColorBack()
@@ -185,9 +190,9 @@ void lexoria::allChangeColorBack()
 
 void lexoria::clearFocusEverywhere()
 {
-    for (const char *name : {"fontComboBoxEnglish", "fontComboBoxUppercase", "fontComboBoxLowercase",
-                             "spinBox1", "spinBox2", "spinBox3", "spinBox4", "spinBox5", "spinBox8",
-                             "spinBox27"}) {
+    for (const char *name :
+        {"fontComboBoxEnglish", "fontComboBoxUppercase", "fontComboBoxLowercase", "spinBox1",
+            "spinBox2", "spinBox3", "spinBox4", "spinBox5", "spinBox8", "spinBox27"}) {
         if (QWidget *widget = ui->widget(QLatin1String(name)))
             widget->clearFocus();
     }
@@ -248,7 +253,7 @@ void lexoria::aKeysMap_function()
 {
     aKeysMapShown = !aKeysMapShown;
     for (const char *name : {"aKeysMapNormal", "aKeysMapShift", "aKeysMapText", "aKeysMap2",
-                             "aKeysMap3", "aKeysMap4", "aKeysMap5"})
+             "aKeysMap3", "aKeysMap4", "aKeysMap5"})
         ui->widget(QLatin1String(name))->setVisible(aKeysMapShown);
     ui->aKeysMap->setText(aKeysMapShown ? QStringLiteral("<") : QStringLiteral(">>>"));
 }
@@ -264,5 +269,6 @@ void lexoria::hideInsRight()
 {
     insRightShown = !insRightShown;
     ui->labelInstructionsRight->setVisible(insRightShown);
-    ui->buttonInstructionsRight->setText(insRightShown ? QStringLiteral("<") : QStringLiteral(">>>"));
+    ui->buttonInstructionsRight->setText(
+        insRightShown ? QStringLiteral("<") : QStringLiteral(">>>"));
 }

@@ -8,12 +8,11 @@ namespace {
 
 const QString &letters()
 {
-    static const QString all = QStringLiteral(
-        "абвгдеёжзийклмнопрстуфхцчшщъыьэюя"
-        "АБВГДЕЁЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ"
-        "1234567890-="
-        "!\"№;%:?*()_+"
-        ".\\,/");
+    static const QString all = QStringLiteral("абвгдеёжзийклмнопрстуфхцчшщъыьэюя"
+                                              "АБВГДЕЁЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ"
+                                              "1234567890-="
+                                              "!\"№;%:?*()_+"
+                                              ".\\,/");
     return all;
 }
 
@@ -33,7 +32,10 @@ constexpr auto keyOfLetterTable = [] {
     return keys;
 }();
 
-constexpr bool isLetterKey(int k) { return k <= 26; }
+constexpr bool isLetterKey(int k)
+{
+    return k <= 26;
+}
 
 } // namespace
 

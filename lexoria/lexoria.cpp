@@ -76,8 +76,8 @@ lexoria::lexoria(QWidget *parent)
             set_dem_StyleSheet();
         });
     }
-    for (QWidget *hidden : std::initializer_list<QWidget *>{ui->rbAll, ui->rbConsonants, ui->groupBox,
-                                                           ui->gbPushButtons, ui->letCharBoth})
+    for (QWidget *hidden : std::initializer_list<QWidget *> {
+             ui->rbAll, ui->rbConsonants, ui->groupBox, ui->gbPushButtons, ui->letCharBoth})
         hidden->hide();
     animationOn_function();
     isKeyPressedAll();
@@ -85,11 +85,13 @@ lexoria::lexoria(QWidget *parent)
     ui->display3->raise();
     hideShields();
     ui->letterOfAlphabet2->raise();
-    for (QLabel *banner : {ui->circleFour, ui->circleOne, ui->circleThree, ui->circleTwo, ui->piclabel1})
+    for (QLabel *banner :
+        {ui->circleFour, ui->circleOne, ui->circleThree, ui->circleTwo, ui->piclabel1})
         banner->lower();
     connect(ui->animationOff, &QPushButton::clicked, this, &lexoria::animationOff_function);
     connect(ui->animationOn, &QPushButton::clicked, this, &lexoria::animationOn_function);
-    for (QLabel *shield : {ui->shieldConsonants, ui->shieldVarious, ui->shieldNumberLine, ui->shieldStart})
+    for (QLabel *shield :
+        {ui->shieldConsonants, ui->shieldVarious, ui->shieldNumberLine, ui->shieldStart})
         shield->raise();
 
     // Faces under pictures under letters: lowering in list order leaves the faces lowest.
@@ -118,7 +120,8 @@ lexoria::lexoria(QWidget *parent)
         restyle(keyBgLabels[k], restFace);
     restyle(ui->aKeysMap5, restFace);
 
-    ui->wallpaper->setStyleSheet(QStringLiteral("background-color: white; border:none; border-radius: 0px;"));
+    restyle(
+        ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));
     ui->wallpaper->lower();
 }
 
@@ -138,8 +141,8 @@ void lexoria::createSecondaryWindows()
     connectSecondaryWindows();
 
     const Qt::WindowFlags readingFlags = Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint;
-    for (QMainWindow *window : std::initializer_list<QMainWindow *>{instructionsWin, selfExploreWin,
-                                                                     exploreWorldWin, aboutWin})
+    for (QMainWindow *window : std::initializer_list<QMainWindow *> {
+             instructionsWin, selfExploreWin, exploreWorldWin, aboutWin})
         window->setWindowFlags(readingFlags);
 }
 
@@ -158,7 +161,8 @@ void lexoria::connectSecondaryWindows()
     };
 
     opens(openingWin->ui->openInstructions, instructionsWin);
-    connect(instructionsWin->ui->mgExitButton, &QPushButton::clicked, instructionsWin, &QWidget::hide);
+    connect(
+        instructionsWin->ui->mgExitButton, &QPushButton::clicked, instructionsWin, &QWidget::hide);
     opens(openingWin->ui->owInstructionsForSE, selfExploreWin);
     closesToFront(selfExploreWin->ui->seExitbutton, selfExploreWin);
     opens(openingWin->ui->owExploreTheWorld, exploreWorldWin);
@@ -166,8 +170,10 @@ void lexoria::connectSecondaryWindows()
     opens(openingWin->ui->owAboutButton, aboutWin);
     closesToFront(aboutWin->ui->awExitButton, aboutWin);
 
-    connect(openingWin->ui->startLearnRussianTyping, &QPushButton::clicked, this, &lexoria::openLexoria);
-    connect(openingWin->ui->startLearnRussianTyping, &QPushButton::clicked, openingWin, &QWidget::close);
+    connect(openingWin->ui->startLearnRussianTyping, &QPushButton::clicked, this,
+        &lexoria::openLexoria);
+    connect(openingWin->ui->startLearnRussianTyping, &QPushButton::clicked, openingWin,
+        &QWidget::close);
     connect(openingWin->ui->owExitPushButton, &QPushButton::clicked, openingWin, &QWidget::close);
 }
 
@@ -175,8 +181,8 @@ void lexoria::openLexoria()
 {
     show();
     centerMainWindow();
-    for (QMainWindow *window : std::initializer_list<QMainWindow *>{instructionsWin, selfExploreWin,
-                                                                     exploreWorldWin, aboutWin})
+    for (QMainWindow *window : std::initializer_list<QMainWindow *> {
+             instructionsWin, selfExploreWin, exploreWorldWin, aboutWin})
         window->close();
 }
 

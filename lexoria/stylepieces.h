@@ -16,7 +16,8 @@ struct StylePieces
     QString keysBgStyle = verticalGradient("black", ".5", "black");
     QString keysBorderStyle;
     QString keypressBgStyle = verticalGradient("black", ".5", "black");
-    QString keypressBorderStyle = "border-style:none; border-width:0px;  border-color: transparent;";
+    QString keypressBorderStyle
+        = "border-style:none; border-width:0px;  border-color: transparent;";
     QString mouseoverBgStyle = verticalGradient("gold", ".5", "gold");
     QString mouseoverBorderStyle;
     QString highlightBgStyle = verticalGradient("gold", ".5", "gold");

@@ -19,7 +19,10 @@ public:
     }
 
     QLabel *label(const QString &name) const { return window->findChild<QLabel *>(name); }
-    QPushButton *button(const QString &name) const { return window->findChild<QPushButton *>(name); }
+    QPushButton *button(const QString &name) const
+    {
+        return window->findChild<QPushButton *>(name);
+    }
     QLineEdit *field(const QString &name) const { return window->findChild<QLineEdit *>(name); }
     QString text(const QString &name) const { return label(name)->text(); }
     QString style(const QString &name) const
@@ -33,7 +36,8 @@ public:
     // Presses the physical key that gives letter n, with Shift where the key needs it.
     void type(int n)
     {
-        const keycatalogue::CharacterKey &key = keycatalogue::characterKey(keycatalogue::keyOfLetter(n));
+        const keycatalogue::CharacterKey &key
+            = keycatalogue::characterKey(keycatalogue::keyOfLetter(n));
         const bool shifted = key.upper == n;
         const bool letterKey = key.k <= 26;
         const int code = (shifted && !letterKey) ? key.shiftedCode : key.plainCode;

@@ -98,8 +98,8 @@ void tst_Game::fullStrictGame()
     QCOMPARE(game->style("labelCorrect"), italicScore);
     QCOMPARE(game->field("leMatch")->text(), last);
     QCOMPARE(game->field("leUser")->text(), last);
-    const QString italic = "background-color: transparent; font-style: italic; " + fontOf(letters.last())
-        + "color: black; font-size: 24pt; border: none;";
+    const QString italic = "background-color: transparent; font-style: italic; "
+        + fontOf(letters.last()) + "color: black; font-size: 24pt; border: none;";
     QCOMPARE(game->style("leMatch"), italic);
     QCOMPARE(game->style("leUser"), italic);
 
@@ -178,7 +178,8 @@ void tst_Game::stopKeepsTheScoreAndFreezesTheClock()
     QCOMPARE(game->text("labelCorrect"), QString("1"));
     QCOMPARE(game->field("leMatch")->text(), QString("б"));
     QCOMPARE(game->style("labelCorrect"), normalScore);
-    QCOMPARE(game->style("stop"), QString("font-size: 16pt; font-family: 'MS Shell Dlg 2';  color: maroon;"));
+    QCOMPARE(game->style("stop"),
+        QString("font-size: 16pt; font-family: 'MS Shell Dlg 2';  color: maroon;"));
 
     // After Stop keys no longer make entries.
     game->type(2);
@@ -190,7 +191,8 @@ void tst_Game::stopKeepsTheScoreAndFreezesTheClock()
     QCOMPARE(lcd(), 0);
     QCOMPARE(game->field("leMatch")->text(), QString("а"));
     QCOMPARE(game->style("r1"), QString("color: white;")); // the last game's marks are gone
-    QCOMPARE(game->style("start"), QString("font-size: 16pt; font-family: 'MS Shell Dlg 2'; color: rgb(0, 94, 0);"));
+    QCOMPARE(game->style("start"),
+        QString("font-size: 16pt; font-family: 'MS Shell Dlg 2'; color: rgb(0, 94, 0);"));
 }
 
 void tst_Game::clockRadiosPauseAndResume()
@@ -235,7 +237,8 @@ void tst_Game::questionComesAfterARestartToo()
     game->click("start"); // within two seconds of the finish
     QCOMPARE(game->text("labelCorrect"), QString());
     QCOMPARE(game->style("labelCorrect"), normalScore);
-    QTRY_COMPARE_WITH_TIMEOUT(game->text("display2"), QString("Would you like\nto play again?"), 2500);
+    QTRY_COMPARE_WITH_TIMEOUT(
+        game->text("display2"), QString("Would you like\nto play again?"), 2500);
 }
 
 QTEST_MAIN(tst_Game)

@@ -94,30 +94,90 @@ void tst_GameSelection::buttonsChooseTheGame_data()
     QTest::addColumn<QString>("directionRadio");
     QTest::addColumn<QString>("firstLetter");
 
-    QTest::newRow("forward Everything") << "pbForwardAll" << "Everything !!" << "Forward" << "а - /"
-                                        << "rbAll" << "rbForward_2" << "а";
-    QTest::newRow("reverse Everything") << "pbReverseAll" << "Everything !!" << "Reverse" << "/ - а"
-                                        << "rbAll" << "rbReverse_2" << "/";
-    QTest::newRow("random Everything") << "pbRandomAll" << "Everything !!" << "Random" << "э Я )"
-                                       << "rbAll" << "rbRandom_2" << "";
-    QTest::newRow("forward Lowercase") << "pbForwardVarious" << "Lowercase" << "Forward" << "а - я"
-                                       << "rbVarious" << "rbForward_2" << "а";
-    QTest::newRow("reverse Lowercase") << "pbReverseVarious" << "Lowercase" << "Reverse" << "я - а"
-                                       << "rbVarious" << "rbReverse_2" << "я";
-    QTest::newRow("random Lowercase") << "pbRandomVarious" << "Lowercase" << "Random" << "х я й"
-                                      << "rbVarious" << "rbRandom_2" << "";
-    QTest::newRow("forward Uppercase") << "pbForwardConsonants" << "Uppercase" << "Forward" << "А - Я"
-                                       << "rbConsonants" << "rbForward_2" << "А";
-    QTest::newRow("reverse Uppercase") << "pbReverseConsonants" << "Uppercase" << "Reverse" << "Я - А"
-                                       << "rbConsonants" << "rbReverse_2" << "Я";
-    QTest::newRow("random Uppercase") << "pbRandomConsonants" << "Uppercase" << "Random" << "Ж Ы Н"
-                                      << "rbConsonants" << "rbRandom_2" << "";
-    QTest::newRow("forward Number Line") << "pbForwardNumberLine" << "Number Line" << "Forward"
-                                         << "1 - /" << "rbNumberLine" << "rbForward_2" << "1";
-    QTest::newRow("reverse Number Line") << "pbReverseNumberLine" << "Number Line" << "Reverse"
-                                         << "/ - 1" << "rbNumberLine" << "rbReverse_2" << "/";
-    QTest::newRow("random Number Line") << "pbRandomNumberLine" << "Number Line" << "Random"
-                                        << "№ 9 !" << "rbNumberLine" << "rbRandom_2" << "";
+    QTest::newRow("forward Everything") << "pbForwardAll"
+                                        << "Everything !!"
+                                        << "Forward"
+                                        << "а - /"
+                                        << "rbAll"
+                                        << "rbForward_2"
+                                        << "а";
+    QTest::newRow("reverse Everything") << "pbReverseAll"
+                                        << "Everything !!"
+                                        << "Reverse"
+                                        << "/ - а"
+                                        << "rbAll"
+                                        << "rbReverse_2"
+                                        << "/";
+    QTest::newRow("random Everything") << "pbRandomAll"
+                                       << "Everything !!"
+                                       << "Random"
+                                       << "э Я )"
+                                       << "rbAll"
+                                       << "rbRandom_2"
+                                       << "";
+    QTest::newRow("forward Lowercase") << "pbForwardVarious"
+                                       << "Lowercase"
+                                       << "Forward"
+                                       << "а - я"
+                                       << "rbVarious"
+                                       << "rbForward_2"
+                                       << "а";
+    QTest::newRow("reverse Lowercase") << "pbReverseVarious"
+                                       << "Lowercase"
+                                       << "Reverse"
+                                       << "я - а"
+                                       << "rbVarious"
+                                       << "rbReverse_2"
+                                       << "я";
+    QTest::newRow("random Lowercase") << "pbRandomVarious"
+                                      << "Lowercase"
+                                      << "Random"
+                                      << "х я й"
+                                      << "rbVarious"
+                                      << "rbRandom_2"
+                                      << "";
+    QTest::newRow("forward Uppercase") << "pbForwardConsonants"
+                                       << "Uppercase"
+                                       << "Forward"
+                                       << "А - Я"
+                                       << "rbConsonants"
+                                       << "rbForward_2"
+                                       << "А";
+    QTest::newRow("reverse Uppercase") << "pbReverseConsonants"
+                                       << "Uppercase"
+                                       << "Reverse"
+                                       << "Я - А"
+                                       << "rbConsonants"
+                                       << "rbReverse_2"
+                                       << "Я";
+    QTest::newRow("random Uppercase") << "pbRandomConsonants"
+                                      << "Uppercase"
+                                      << "Random"
+                                      << "Ж Ы Н"
+                                      << "rbConsonants"
+                                      << "rbRandom_2"
+                                      << "";
+    QTest::newRow("forward Number Line") << "pbForwardNumberLine"
+                                         << "Number Line"
+                                         << "Forward"
+                                         << "1 - /"
+                                         << "rbNumberLine"
+                                         << "rbForward_2"
+                                         << "1";
+    QTest::newRow("reverse Number Line") << "pbReverseNumberLine"
+                                         << "Number Line"
+                                         << "Reverse"
+                                         << "/ - 1"
+                                         << "rbNumberLine"
+                                         << "rbReverse_2"
+                                         << "/";
+    QTest::newRow("random Number Line") << "pbRandomNumberLine"
+                                        << "Number Line"
+                                        << "Random"
+                                        << "№ 9 !"
+                                        << "rbNumberLine"
+                                        << "rbRandom_2"
+                                        << "";
 }
 
 void tst_GameSelection::buttonsChooseTheGame()
@@ -160,8 +220,8 @@ void tst_GameSelection::waveLightsTheGameInOrder_data()
     // Fixed and scrambled, with ш twice.
     QTest::newRow("random Lowercase")
         << "pbRandomVarious"
-        << QList<int>{20, 11, 28, 12, 27, 13, 1,  16, 33, 23, 5,  29, 32, 10, 18,
-                      26, 31, 19, 22, 2,  14, 17, 3,  9,  25, 24, 30, 15, 8,  26};
+        << QList<int> {20, 11, 28, 12, 27, 13, 1, 16, 33, 23, 5, 29, 32, 10, 18, 26, 31, 19, 22, 2,
+               14, 17, 3, 9, 25, 24, 30, 15, 8, 26};
 }
 
 void tst_GameSelection::waveLightsTheGameInOrder()

@@ -14,7 +14,8 @@ namespace {
 const QString keysGradient = "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, "
                              "stop: 0 black, stop: .5  black);";
 const QString restFace = "border-radius: 10px;" + keysGradient;
-const QString pressedFace = restFace + "border-style:none; border-width:0px;  border-color: transparent;";
+const QString pressedFace
+    = restFace + "border-style:none; border-width:0px;  border-color: transparent;";
 const QString upperFont = "font-family: Arial Unicode MS;";
 
 } // namespace
@@ -89,10 +90,10 @@ void tst_Keyboard::keyMap_data()
     const QString shiftedLetters = "ФИСВУАПРШОЛДЬТЩЗЙКЫЕГМЦЧНЯ";
     for (int k = 1; k <= 26; ++k) {
         const char english = char('A' + k - 1);
-        QTest::addRow("%c", english) << (Qt::Key_A + k - 1) << int(Qt::NoModifier)
-                                     << plainLetters.mid(k - 1, 1) << k;
-        QTest::addRow("Shift+%c", english) << (Qt::Key_A + k - 1) << int(Qt::ShiftModifier)
-                                           << shiftedLetters.mid(k - 1, 1) << k;
+        QTest::addRow("%c", english)
+            << (Qt::Key_A + k - 1) << int(Qt::NoModifier) << plainLetters.mid(k - 1, 1) << k;
+        QTest::addRow("Shift+%c", english)
+            << (Qt::Key_A + k - 1) << int(Qt::ShiftModifier) << shiftedLetters.mid(k - 1, 1) << k;
     }
     struct Sign
     {
@@ -103,17 +104,31 @@ void tst_Keyboard::keyMap_data()
         const char *shifted;
     };
     const Sign signs[] = {
-        {27, '`', "ё", '~', "Ё"}, {28, '1', "1", '!', "!"},  {29, '2', "2", '@', "\""},
-        {30, '3', "3", '#', "№"}, {31, '4', "4", '$', ";"},  {32, '5', "5", '%', "%"},
-        {33, '6', "6", '^', ":"}, {34, '7', "7", '&', "?"},  {35, '8', "8", '*', "*"},
-        {36, '9', "9", '(', "("}, {37, '0', "0", ')', ")"},  {38, '-', "-", '_', "_"},
-        {39, '=', "=", '+', "+"}, {40, '[', "х", '{', "Х"},  {41, ']', "ъ", '}', "Ъ"},
-        {42, '\\', "\\", '|', "/"}, {43, ';', "ж", ':', "Ж"}, {44, '\'', "э", '"', "Э"},
-        {45, ',', "б", '<', "Б"}, {46, '.', "ю", '>', "Ю"}, {47, '/', ".", '?', ","},
+        {27, '`', "ё", '~', "Ё"},
+        {28, '1', "1", '!', "!"},
+        {29, '2', "2", '@', "\""},
+        {30, '3', "3", '#', "№"},
+        {31, '4', "4", '$', ";"},
+        {32, '5', "5", '%', "%"},
+        {33, '6', "6", '^', ":"},
+        {34, '7', "7", '&', "?"},
+        {35, '8', "8", '*', "*"},
+        {36, '9', "9", '(', "("},
+        {37, '0', "0", ')', ")"},
+        {38, '-', "-", '_', "_"},
+        {39, '=', "=", '+', "+"},
+        {40, '[', "х", '{', "Х"},
+        {41, ']', "ъ", '}', "Ъ"},
+        {42, '\\', "\\", '|', "/"},
+        {43, ';', "ж", ':', "Ж"},
+        {44, '\'', "э", '"', "Э"},
+        {45, ',', "б", '<', "Б"},
+        {46, '.', "ю", '>', "Ю"},
+        {47, '/', ".", '?', ","},
     };
     for (const Sign &sign : signs) {
-        QTest::addRow("%c", sign.plainCode) << sign.plainCode << int(Qt::NoModifier)
-                                            << QString::fromUtf8(sign.plain) << sign.k;
+        QTest::addRow("%c", sign.plainCode)
+            << sign.plainCode << int(Qt::NoModifier) << QString::fromUtf8(sign.plain) << sign.k;
         // Shift is in the code for these keys; the modifier must not matter.
         QTest::addRow("%c", sign.shiftedCode) << sign.shiftedCode << int(Qt::ShiftModifier)
                                               << QString::fromUtf8(sign.shifted) << sign.k;
@@ -163,8 +178,9 @@ void tst_Keyboard::unmappedKeysChangeNothing()
 {
     const QMap<QString, QString> before = allLabelStyles();
     const QString number = window->findChild<QLabel *>("letterOfAlphabet2")->text();
-    for (int code : {int(Qt::Key_Tab), int(Qt::Key_Return), int(Qt::Key_Backspace), int(Qt::Key_Shift),
-                     int(Qt::Key_F1), int(Qt::Key_Left), 0x0430 /* а from a Russian layout */}) {
+    for (int code :
+        {int(Qt::Key_Tab), int(Qt::Key_Return), int(Qt::Key_Backspace), int(Qt::Key_Shift),
+            int(Qt::Key_F1), int(Qt::Key_Left), 0x0430 /* а from a Russian layout */}) {
         QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier);
         QKeyEvent release(QEvent::KeyRelease, code, Qt::NoModifier);
         QApplication::sendEvent(window.get(), &press);
@@ -186,7 +202,8 @@ void tst_Keyboard::pressedAndRestLooks_data()
     QTest::addColumn<QString>("restLetter");
 
     QTest::newRow("lower row а") << int(Qt::Key_F) << int(Qt::NoModifier) << 1 << 34 << 6
-                                 << "color: blue;" << "color: white;";
+                                 << "color: blue;"
+                                 << "color: white;";
     QTest::newRow("lower row ж") << int(Qt::Key_Semicolon) << 0 << 8 << 41 << 43 << "color: blue;"
                                  << "color: white;";
     QTest::newRow("upper row Ж") << int(Qt::Key_Colon) << int(Qt::ShiftModifier) << 41 << 8 << 43
@@ -208,15 +225,18 @@ void tst_Keyboard::pressedAndRestLooks()
     const QString otherRest = label(QStringLiteral("r%1").arg(other))->styleSheet();
     QTest::keyPress(window.get(), Qt::Key(code), Qt::KeyboardModifiers(modifiers));
     QCOMPARE(label(QStringLiteral("bg%1").arg(k))->styleSheet(), pressedFace);
-    QCOMPARE(label(QStringLiteral("r%1_3").arg(k))->styleSheet(), QString("color: blue;font-family: Calibri;"));
+    QCOMPARE(label(QStringLiteral("r%1_3").arg(k))->styleSheet(),
+        QString("color: blue;font-family: Calibri;"));
     QCOMPARE(label(QStringLiteral("r%1").arg(n))->styleSheet(), pressedLetter);
     QCOMPARE(label(QStringLiteral("r%1_2").arg(n))->styleSheet(), pressedLetter);
-    QCOMPARE(label(QStringLiteral("r%1bg").arg(n))->styleSheet(), "border-radius: 10px;" + keysGradient);
+    QCOMPARE(
+        label(QStringLiteral("r%1bg").arg(n))->styleSheet(), "border-radius: 10px;" + keysGradient);
 
     // Release without the modifier: both letters of the key come back to rest.
     QTest::keyRelease(window.get(), Qt::Key(code), Qt::NoModifier);
     QCOMPARE(label(QStringLiteral("bg%1").arg(k))->styleSheet(), restFace);
-    QCOMPARE(label(QStringLiteral("r%1_3").arg(k))->styleSheet(), QString("color: white;font-family: Calibri;"));
+    QCOMPARE(label(QStringLiteral("r%1_3").arg(k))->styleSheet(),
+        QString("color: white;font-family: Calibri;"));
     QCOMPARE(label(QStringLiteral("r%1").arg(n))->styleSheet(), restLetter);
     QCOMPARE(label(QStringLiteral("r%1_2").arg(n))->styleSheet(), restLetter);
     QCOMPARE(label(QStringLiteral("r%1").arg(other))->styleSheet(), otherRest);
@@ -241,12 +261,13 @@ void tst_Keyboard::letterNumberLine_data()
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("а") << QList<int>{Qt::Key_F} << 0 << "Letter-number: 1";
-    QTest::newRow("Ж") << QList<int>{Qt::Key_Colon} << int(Qt::ShiftModifier) << "Letter-number: 8";
-    QTest::newRow("ё") << QList<int>{Qt::Key_QuoteLeft} << 0 << "Letter-number: 7";
-    QTest::newRow("Я") << QList<int>{Qt::Key_Z} << int(Qt::ShiftModifier) << "Letter-number: 33";
+    QTest::newRow("а") << QList<int> {Qt::Key_F} << 0 << "Letter-number: 1";
+    QTest::newRow("Ж") << QList<int> {Qt::Key_Colon} << int(Qt::ShiftModifier)
+                       << "Letter-number: 8";
+    QTest::newRow("ё") << QList<int> {Qt::Key_QuoteLeft} << 0 << "Letter-number: 7";
+    QTest::newRow("Я") << QList<int> {Qt::Key_Z} << int(Qt::ShiftModifier) << "Letter-number: 33";
     QTest::newRow("digit keeps the number")
-        << QList<int>{Qt::Key_T, Qt::Key_5} << 0 << "Letter-number: 6";
+        << QList<int> {Qt::Key_T, Qt::Key_5} << 0 << "Letter-number: 6";
 }
 
 void tst_Keyboard::letterNumberLine()
@@ -323,11 +344,13 @@ void tst_Keyboard::panesHideAndShow_data()
     QTest::addColumn<QString>("button");
     QTest::addColumn<QStringList>("panes");
 
-    QTest::newRow("left instructions") << "buttonInstructionsLeft" << QStringList{"labelInstructionsLeft"};
-    QTest::newRow("right instructions") << "buttonInstructionsRight" << QStringList{"labelInstructionsRight"};
+    QTest::newRow("left instructions")
+        << "buttonInstructionsLeft" << QStringList {"labelInstructionsLeft"};
+    QTest::newRow("right instructions")
+        << "buttonInstructionsRight" << QStringList {"labelInstructionsRight"};
     QTest::newRow("a key's map") << "aKeysMap"
-                                 << QStringList{"aKeysMap2", "aKeysMap3", "aKeysMap4", "aKeysMap5",
-                                                "aKeysMapShift", "aKeysMapNormal", "aKeysMapText"};
+                                 << QStringList {"aKeysMap2", "aKeysMap3", "aKeysMap4", "aKeysMap5",
+                                        "aKeysMapShift", "aKeysMapNormal", "aKeysMapText"};
 }
 
 void tst_Keyboard::panesHideAndShow()
@@ -348,7 +371,9 @@ void tst_Keyboard::panesHideAndShow()
 void tst_Keyboard::exitOnOpeningWindowEndsProgram()
 {
     // The application quits when no window is left on screen; the main window was never shown.
-    window->findChild<QMainWindow *>("openingWindow")->findChild<QPushButton *>("owExitPushButton")->click();
+    window->findChild<QMainWindow *>("openingWindow")
+        ->findChild<QPushButton *>("owExitPushButton")
+        ->click();
     for (QWidget *topLevel : QApplication::topLevelWidgets())
         QVERIFY2(!topLevel->isVisible(), qPrintable(topLevel->objectName()));
 }
