@@ -1,0 +1,349 @@
+#include "lexoria/lexoria.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace {
+
+// VORTIC_BENCH_SHORT=1 runs every benchmark once, so that CI proves they still work without
+// spending minutes on figures nobody reads there.
+bool shortRun()
+{
+    return qEnvironmentVariableIntValue("VORTIC_BENCH_SHORT") == 1;
+}
+
+// The keys of the Lowercase alphabet а, б, в … я, in alphabet order, on a Latin keyboard.
+const Qt::Key lowercaseAlphabetKeys[] = {
+    Qt::Key_F, // а
+    Qt::Key_Comma, // б
+    Qt::Key_D, // в
+    Qt::Key_U, // г
+    Qt::Key_L, // д
+    Qt::Key_T, // е
+    Qt::Key_QuoteLeft, // ё
+    Qt::Key_Semicolon, // ж
+    Qt::Key_P, // з
+    Qt::Key_B, // и
+    Qt::Key_Q, // й
+    Qt::Key_R, // к
+    Qt::Key_K, // л
+    Qt::Key_V, // м
+    Qt::Key_Y, // н
+    Qt::Key_J, // о
+    Qt::Key_G, // п
+    Qt::Key_H, // р
+    Qt::Key_C, // с
+    Qt::Key_N, // т
+    Qt::Key_E, // у
+    Qt::Key_A, // ф
+    Qt::Key_BracketLeft, // х
+    Qt::Key_W, // ц
+    Qt::Key_X, // ч
+    Qt::Key_I, // ш
+    Qt::Key_O, // щ
+    Qt::Key_BracketRight, // ъ
+    Qt::Key_S, // ы
+    Qt::Key_M, // ь
+    Qt::Key_Apostrophe, // э
+    Qt::Key_Period, // ю
+    Qt::Key_Z, // я
+};
+
+// Counts the paint events of one top-level window and everything in it. A frame is done when
+// processEvents() returns after the first of them: Qt paints the whole dirty region into the
+// backing store and hands it to the window system in one synchronous pass.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget *window)
+        : window(window)
+    {
+        qApp->installEventFilter(this);
+    }
+    ~PaintWatch() override { qApp->removeEventFilter(this); }
+
+    // Runs the event loop until the window has painted after this call. A generous guard
+    // only keeps a broken build from hanging CI; it judges no speed.
+    bool waitForFrame()
+    {
+        const int before = paints;
+        bool gaveUp = false;
+        QTimer guard;
+        guard.setSingleShot(true);
+        QObject::connect(&guard, &QTimer::timeout, [&gaveUp] { gaveUp = true; });
+        guard.start(10000);
+        while (paints == before && !gaveUp)
+            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        return paints != before;
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && watched->isWidgetType()
+            && static_cast<QWidget *>(watched)->window() == window)
+            ++paints;
+        return false;
+    }
+
+private:
+    QWidget *window;
+    int paints = 0;
+};
+
+QMainWindow *openingWindowOf(lexoria &w)
+{
+    return w.findChild<QMainWindow *>(QStringLiteral("openingWindow"));
+}
+
+void click(lexoria &w, const char *button)
+{
+    QPushButton *found = w.findChild<QPushButton *>(QLatin1String(button));
+    QVERIFY2(found, button);
+    found->click();
+}
+
+// Walltime in QtTest counts whole milliseconds over as many iterations as make 50 ms, so
+// QBENCHMARK is used where the measured step can simply repeat.
+template <class Body> void measure(Body body)
+{
+    if (shortRun()) {
+        QBENCHMARK_ONCE
+        {
+            body();
+        }
+    } else {
+        QBENCHMARK
+        {
+            body();
+        }
+    }
+}
+
+// Where every round needs an untimed setup (a fresh window, keys to restore), QBENCHMARK
+// cannot keep that setup out of its loop. These rounds are timed one by one and QtTest gets
+// their median in nanoseconds, since its own walltime counts whole milliseconds; with
+// -median N it reports the median of N such medians.
+template <class Setup, class Body, class Teardown>
+void measureRounds(int rounds, Setup setup, Body body, Teardown teardown)
+{
+    if (shortRun())
+        rounds = 1;
+    std::vector<qint64> nanoseconds;
+    for (int round = 0; round < rounds; ++round) {
+        setup();
+        QElapsedTimer timer;
+        timer.start();
+        body();
+        nanoseconds.push_back(timer.nsecsElapsed());
+        teardown();
+        if (QTest::currentTestFailed())
+            return;
+    }
+    std::sort(nanoseconds.begin(), nanoseconds.end());
+    qInfo("%d rounds: median %.3f ms, range %.3f .. %.3f ms", rounds, nanoseconds[rounds / 2] / 1e6,
+        nanoseconds.front() / 1e6, nanoseconds.back() / 1e6);
+    QTest::setBenchmarkResult(nanoseconds[rounds / 2], QTest::WalltimeNanoseconds);
+}
+
+} // namespace
+
+class bench_Lexoria : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void construct();
+    void constructUntilOpeningWindowPainted();
+    void startUntilMainWindowPainted();
+    void keyUntilPainted_data();
+    void keyUntilPainted();
+    void allChangeColorBackNothingChanged();
+    void allChangeColorBackEverythingChanged_data();
+    void allChangeColorBackEverythingChanged();
+    void strictLowercaseGame();
+
+private:
+    std::unique_ptr<lexoria> mainWindowShown();
+};
+
+std::unique_ptr<lexoria> bench_Lexoria::mainWindowShown()
+{
+    auto w = std::make_unique<lexoria>();
+    PaintWatch watch(w.get());
+    openingWindowOf(*w)
+        ->findChild<QPushButton *>(QStringLiteral("startLearnRussianTyping"))
+        ->click();
+    if (!watch.waitForFrame())
+        return nullptr;
+    return w;
+}
+
+// The constructor alone, opening window shown but not yet painted. The windows are kept
+// until the end so that their destruction stays out of the figure.
+void bench_Lexoria::construct()
+{
+    std::vector<std::unique_ptr<lexoria>> made;
+    measure([&made] { made.push_back(std::make_unique<lexoria>()); });
+}
+
+void bench_Lexoria::constructUntilOpeningWindowPainted()
+{
+    std::vector<std::unique_ptr<lexoria>> made;
+    bool painted = true;
+    measure([&made, &painted] {
+        made.push_back(std::make_unique<lexoria>());
+        PaintWatch watch(openingWindowOf(*made.back()));
+        painted = watch.waitForFrame() && painted;
+    });
+    QVERIFY(painted);
+}
+
+// The first show of the main window polishes every widget in it, so each round needs a
+// window that has never been shown.
+void bench_Lexoria::startUntilMainWindowPainted()
+{
+    std::unique_ptr<lexoria> w;
+    std::unique_ptr<PaintWatch> watch;
+    QPushButton *start = nullptr;
+    bool painted = true;
+    measureRounds(
+        15,
+        [&] {
+            w = std::make_unique<lexoria>();
+            PaintWatch(openingWindowOf(*w)).waitForFrame();
+            start = openingWindowOf(*w)->findChild<QPushButton *>(
+                QStringLiteral("startLearnRussianTyping"));
+            watch = std::make_unique<PaintWatch>(w.get());
+        },
+        [&] {
+            start->click();
+            painted = watch->waitForFrame() && painted;
+        },
+        [&] {
+            watch.reset();
+            w.reset();
+        });
+    QVERIFY(painted);
+}
+
+// A press and a release are two frames apart for a typist, so each is timed up to its own
+// painted frame; the other half of the stroke happens untimed.
+void bench_Lexoria::keyUntilPainted_data()
+{
+    QTest::addColumn<bool>("timePress");
+    QTest::newRow("press") << true;
+    QTest::newRow("release") << false;
+}
+
+void bench_Lexoria::keyUntilPainted()
+{
+    QFETCH(bool, timePress);
+    std::unique_ptr<lexoria> w = mainWindowShown();
+    QVERIFY(w);
+    PaintWatch watch(w.get());
+    bool painted = true;
+    auto press = [&] {
+        QTest::keyPress(w.get(), Qt::Key_F);
+        painted = watch.waitForFrame() && painted;
+    };
+    auto release = [&] {
+        QTest::keyRelease(w.get(), Qt::Key_F);
+        painted = watch.waitForFrame() && painted;
+    };
+    auto nothing = [] {};
+    if (timePress)
+        measureRounds(2000, nothing, press, release);
+    else
+        measureRounds(2000, press, release, nothing);
+    QVERIFY(painted);
+}
+
+void bench_Lexoria::allChangeColorBackNothingChanged()
+{
+    std::unique_ptr<lexoria> w = mainWindowShown();
+    QVERIFY(w);
+    measure([&w] { w->allChangeColorBack(); });
+}
+
+// The worst case the call can meet: all 94 letters in their pressed look, as if every key had
+// been held with and without Shift, so that each of the 94 bar cells, 94 bar letters, 94 key
+// letters, 47 English labels and 47 key faces really is restyled back. key(n) is the slot a
+// key press calls for that look. The pressed looks are painted before the timed call, as they
+// would be on screen.
+void bench_Lexoria::allChangeColorBackEverythingChanged_data()
+{
+    QTest::addColumn<bool>("untilPainted");
+    QTest::newRow("call") << false;
+    QTest::newRow("call and paint") << true;
+}
+
+void bench_Lexoria::allChangeColorBackEverythingChanged()
+{
+    QFETCH(bool, untilPainted);
+    std::unique_ptr<lexoria> w = mainWindowShown();
+    QVERIFY(w);
+    PaintWatch watch(w.get());
+    bool painted = true;
+    measureRounds(
+        200,
+        [&] {
+            for (int n = 1; n <= 94; ++n)
+                w->key(n);
+            painted = watch.waitForFrame() && painted;
+        },
+        [&] {
+            w->allChangeColorBack();
+            if (untilPainted)
+                painted = watch.waitForFrame() && painted;
+        },
+        [&] {
+            if (!untilPainted)
+                painted = watch.waitForFrame() && painted;
+        });
+    QVERIFY(painted);
+}
+
+// A whole game as a player meets it: choose Strict and Lowercase, start, then type а … я,
+// every press and every release painted before the next. The bar wave is switched off, as a
+// player in a hurry does, since it only delays the start button.
+void bench_Lexoria::strictLowercaseGame()
+{
+    std::unique_ptr<lexoria> w = mainWindowShown();
+    QVERIFY(w);
+    PaintWatch watch(w.get());
+    QLabel *correct = w->findChild<QLabel *>(QStringLiteral("labelCorrect"));
+    int finished = 0;
+    int games = 0;
+    bool painted = true;
+    measure([&] {
+        click(*w, "animationOff");
+        click(*w, "strict");
+        click(*w, "pbForwardVarious");
+        click(*w, "start");
+        for (Qt::Key key : lowercaseAlphabetKeys) {
+            QTest::keyPress(w.get(), key);
+            painted = watch.waitForFrame() && painted;
+            QTest::keyRelease(w.get(), key);
+            painted = watch.waitForFrame() && painted;
+        }
+        ++games;
+        if (correct->text() == QLatin1String("33"))
+            ++finished;
+    });
+    QVERIFY(painted);
+    // A game that did not end would make the figure meaningless.
+    QCOMPARE(finished, games);
+}
+
+QTEST_MAIN(bench_Lexoria)
+
+#include "bench_lexoria.moc"
