@@ -15,6 +15,7 @@ int main(int argc, char *argv[])
     QSplashScreen splash(QPixmap(QStringLiteral(":/new/prefix1/vorticTypingBrelom.png")));
     splash.show();
     lexoria w;
-    splash.finish(&w);
+    // The main window stays hidden until "Start"; the splash gives way to the opening window.
+    splash.finish(w.findChild<QMainWindow *>(QStringLiteral("openingWindow")));
     return app.exec();
 }

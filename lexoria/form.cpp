@@ -233,13 +233,14 @@ void lexoria::setupUi(QMainWindow *window)
     window->resize(1211, 695);
     window->setAutoFillBackground(true);
 
+    // Set before any child exists, so that Qt does not walk hundreds of children to restyle them.
+    window->setStyleSheet(lexoriaWindowStyleSheet());
     centralWidget = new QWidget(window);
     centralWidget->setObjectName(QStringLiteral("centralWidget"));
     buildTable(centralWidget);
     buildAlphabetBar(centralWidget);
     buildKeyboard(centralWidget);
     window->setCentralWidget(centralWidget);
-    window->setStyleSheet(lexoriaWindowStyleSheet());
     bindNamedWidgets();
 }
 

@@ -202,10 +202,15 @@ void lexoria::displayBoth()
 {
     phantomLablesHide();
     allChangeColorBack();
-    for (QLabel *letter : qAsConst(keyLetterLabels))
-        letter->show();
-    for (int k = 0; k < characterKeyCount; ++k)
-        keyEnglishLabels[k]->show();
+    // show() polishes a widget even inside a hidden window, so leave shown ones alone.
+    for (QLabel *letter : qAsConst(keyLetterLabels)) {
+        if (letter->isHidden())
+            letter->show();
+    }
+    for (int k = 0; k < characterKeyCount; ++k) {
+        if (keyEnglishLabels[k]->isHidden())
+            keyEnglishLabels[k]->show();
+    }
     showDisplayMark("checkBoth");
 }
 

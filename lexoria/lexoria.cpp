@@ -16,6 +16,7 @@
 #include "windows/ui_selfexplore.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
@@ -106,7 +107,6 @@ lexoria::lexoria(QWidget *parent)
     const QIcon flag(QStringLiteral(":/new/prefix1/russianFlag.gif"));
     setWindowIcon(flag);
     openingWin->setWindowIcon(flag);
-    instructionsWin->setWindowIcon(flag);
 
     connect(ui->on, &QRadioButton::clicked, this, &lexoria::startCounter);
     connect(ui->off, &QRadioButton::clicked, this, &lexoria::stopCounter);
@@ -123,6 +123,11 @@ lexoria::lexoria(QWidget *parent)
     restyle(
         ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));
     ui->wallpaper->lower();
+
+    // Every widget made above has queued a polish request. Served now, they would style the
+    // whole hidden main window before the opening window can paint; a widget is polished
+    // anyway when it is first shown.
+    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
 }
 
 lexoria::~lexoria()
@@ -134,41 +139,22 @@ void lexoria::createSecondaryWindows()
 {
     openingWin = new openingWindow(this);
     openingWin->show();
-    instructionsWin = new instructions(this);
-    selfExploreWin = new selfExplore(this);
-    exploreWorldWin = new exploreWorld(this);
-    aboutWin = new aboutWindow(this);
-    connectSecondaryWindows();
 
-    const Qt::WindowFlags readingFlags = Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint;
-    for (QMainWindow *window : std::initializer_list<QMainWindow *> {
-             instructionsWin, selfExploreWin, exploreWorldWin, aboutWin})
-        window->setWindowFlags(readingFlags);
-}
-
-void lexoria::connectSecondaryWindows()
-{
-    auto opens = [this](QPushButton *button, QMainWindow *window) {
-        connect(button, &QPushButton::clicked, window, &QWidget::show);
-        connect(button, &QPushButton::clicked, openingWin, &QWidget::lower);
-        connect(button, &QPushButton::clicked, window, &QWidget::raise);
+    // The reading windows are made when the player first asks for one: nobody sees them
+    // at start-up, and making them would delay the opening window.
+    auto opens = [this](QPushButton *button, auto window) {
+        connect(button, &QPushButton::clicked, this, [this, window] {
+            createReadingWindows();
+            QMainWindow *reading = window();
+            reading->show();
+            openingWin->lower();
+            reading->raise();
+        });
     };
-    // Hiding and showing the opening window again brings it back to the front.
-    auto closesToFront = [this](QPushButton *button, QMainWindow *window) {
-        connect(button, &QPushButton::clicked, window, &QWidget::hide);
-        connect(button, &QPushButton::clicked, openingWin, &QWidget::hide);
-        connect(button, &QPushButton::clicked, openingWin, &QWidget::show);
-    };
-
-    opens(openingWin->ui->openInstructions, instructionsWin);
-    connect(
-        instructionsWin->ui->mgExitButton, &QPushButton::clicked, instructionsWin, &QWidget::hide);
-    opens(openingWin->ui->owInstructionsForSE, selfExploreWin);
-    closesToFront(selfExploreWin->ui->seExitbutton, selfExploreWin);
-    opens(openingWin->ui->owExploreTheWorld, exploreWorldWin);
-    closesToFront(exploreWorldWin->ui->etwExitButton, exploreWorldWin);
-    opens(openingWin->ui->owAboutButton, aboutWin);
-    closesToFront(aboutWin->ui->awExitButton, aboutWin);
+    opens(openingWin->ui->openInstructions, [this]() -> QMainWindow * { return instructionsWin; });
+    opens(openingWin->ui->owInstructionsForSE, [this]() -> QMainWindow * { return selfExploreWin; });
+    opens(openingWin->ui->owExploreTheWorld, [this]() -> QMainWindow * { return exploreWorldWin; });
+    opens(openingWin->ui->owAboutButton, [this]() -> QMainWindow * { return aboutWin; });
 
     connect(openingWin->ui->startLearnRussianTyping, &QPushButton::clicked, this,
         &lexoria::openLexoria);
@@ -177,12 +163,45 @@ void lexoria::connectSecondaryWindows()
     connect(openingWin->ui->owExitPushButton, &QPushButton::clicked, openingWin, &QWidget::close);
 }
 
+void lexoria::createReadingWindows()
+{
+    if (instructionsWin)
+        return;
+    instructionsWin = new instructions(this);
+    selfExploreWin = new selfExplore(this);
+    exploreWorldWin = new exploreWorld(this);
+    aboutWin = new aboutWindow(this);
+
+    connect(
+        instructionsWin->ui->mgExitButton, &QPushButton::clicked, instructionsWin, &QWidget::hide);
+    // Hiding and showing the opening window again brings it back to the front.
+    auto closesToFront = [this](QPushButton *button, QMainWindow *window) {
+        connect(button, &QPushButton::clicked, window, &QWidget::hide);
+        connect(button, &QPushButton::clicked, openingWin, &QWidget::hide);
+        connect(button, &QPushButton::clicked, openingWin, &QWidget::show);
+    };
+    closesToFront(selfExploreWin->ui->seExitbutton, selfExploreWin);
+    closesToFront(exploreWorldWin->ui->etwExitButton, exploreWorldWin);
+    closesToFront(aboutWin->ui->awExitButton, aboutWin);
+
+    const Qt::WindowFlags readingFlags = Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint;
+    for (QMainWindow *window : readingWindows())
+        window->setWindowFlags(readingFlags);
+    instructionsWin->setWindowIcon(QIcon(QStringLiteral(":/new/prefix1/russianFlag.gif")));
+}
+
+QList<QMainWindow *> lexoria::readingWindows() const
+{
+    if (!instructionsWin)
+        return {};
+    return {instructionsWin, selfExploreWin, exploreWorldWin, aboutWin};
+}
+
 void lexoria::openLexoria()
 {
     show();
     centerMainWindow();
-    for (QMainWindow *window : std::initializer_list<QMainWindow *> {
-             instructionsWin, selfExploreWin, exploreWorldWin, aboutWin})
+    for (QMainWindow *window : readingWindows())
         window->close();
 }
 

@@ -107,7 +107,8 @@ private:
     void fillImgArray();
     void loadDisplayNoneArray();
     void createSecondaryWindows();
-    void connectSecondaryWindows();
+    void createReadingWindows();
+    QList<QMainWindow *> readingWindows() const;
     void connectGameControls();
     void judgeEntry();
     void closeEntry(bool forward);

@@ -39,6 +39,8 @@ private slots:
     void keyLayersStackFacesUnderLetters();
     void keyboardAndBarGeometry();
     void windowIsFixedAndHelpShowsOpeningWindow();
+    void readingWindowsOpenAndClose_data();
+    void readingWindowsOpenAndClose();
     void panesHideAndShow_data();
     void panesHideAndShow();
     void exitOnOpeningWindowEndsProgram();
@@ -337,6 +339,44 @@ void tst_Keyboard::windowIsFixedAndHelpShowsOpeningWindow()
     window->findChild<QPushButton *>("helpButton")->click();
     QVERIFY(opening->isVisible());
     QVERIFY(window->isVisible());
+}
+
+void tst_Keyboard::readingWindowsOpenAndClose_data()
+{
+    QTest::addColumn<QString>("opener");
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<QString>("closer");
+
+    QTest::newRow("instructions") << "openInstructions" << "instructions" << "mgExitButton";
+    QTest::newRow("self-explore") << "owInstructionsForSE" << "selfExplore" << "seExitbutton";
+    QTest::newRow("about") << "owAboutButton" << "aboutWindow" << "awExitButton";
+}
+
+void tst_Keyboard::readingWindowsOpenAndClose()
+{
+    QFETCH(QString, opener);
+    QFETCH(QString, window);
+    QFETCH(QString, closer);
+
+    auto *opening = this->window->findChild<QMainWindow *>("openingWindow");
+    opening->findChild<QPushButton *>(opener)->click();
+    auto *reading = this->window->findChild<QMainWindow *>(window);
+    QVERIFY(reading);
+    QVERIFY(reading->isVisible());
+    QVERIFY(reading->windowFlags() & Qt::CustomizeWindowHint);
+    QVERIFY(!(reading->windowFlags() & Qt::WindowCloseButtonHint));
+
+    reading->findChild<QPushButton *>(closer)->click();
+    QVERIFY(!reading->isVisible());
+    QVERIFY(opening->isVisible());
+
+    // A second opening finds the same window again.
+    opening->findChild<QPushButton *>(opener)->click();
+    QCOMPARE(this->window->findChild<QMainWindow *>(window), reading);
+    QVERIFY(reading->isVisible());
+    // Start on the opening window closes every reading window.
+    opening->findChild<QPushButton *>("startLearnRussianTyping")->click();
+    QVERIFY(!reading->isVisible());
 }
 
 void tst_Keyboard::panesHideAndShow_data()
