@@ -445,6 +445,26 @@ void lexoria::set_User_StyleSheet_Lowercase()
         restyle(ui->leUser, fieldStyle(false, pieces.lowerFontStyle, pieces.userTextColorStyle));
 }
 
+// After a colour change the entry field takes the font of the letter that ends the game.
+void lexoria::set_User_StyleSheet()
+{
+    const int group = currentGroup();
+    const bool capitals = group == Uppercase;
+    if (ui->rbForward_2->isChecked()) {
+        const QString &font = group == Lowercase ? pieces.lowerFontStyle : pieces.upperFontStyle;
+        restyle(ui->leUser, fieldStyle(false, font, pieces.userTextColorStyle));
+        return;
+    }
+    if (ui->rbRandom_2->isChecked() && (group == Everything || group == NumberLine)) {
+        set_Match_StyleSheet_italic();
+        return;
+    }
+    // Reverse games end on а, the upper-case one on А; random games by their group.
+    const QString &font = capitals ? pieces.upperFontStyle : pieces.lowerFontStyle;
+    restyle(ui->leUser, QStringLiteral("background-color: transparent; ") + font
+            + pieces.userTextColorStyle + QStringLiteral(" font-size: 24pt; border: none;"));
+}
+
 void lexoria::clears()
 {
     ui->leMatch->clear();

@@ -84,6 +84,7 @@ public slots:
     void set_Match_StyleSheet_italic();
     void set_User_StyleSheet_Uppercase();
     void set_User_StyleSheet_Lowercase();
+    void set_User_StyleSheet();
 
     // Scoreboard, clock and the instructor
     void clears();
