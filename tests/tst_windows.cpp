@@ -27,8 +27,6 @@ private slots:
     void frame();
     void buttons_data();
     void buttons();
-    void links_data();
-    void links();
 
     void mapClick_data();
     void mapClick();
@@ -142,34 +140,6 @@ void tst_Windows::buttons()
     QCOMPARE(button->text(), text);
     const bool inside = window->rect().contains(button->mapTo(window.get(), QPoint()));
     QCOMPARE(button->isEnabled() && inside, reachable);
-}
-
-void tst_Windows::links_data()
-{
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<QString>("name");
-
-    // clang-format off
-    QTest::newRow("demonstration videos") << "openingWindow" << "label";
-    QTest::newRow("web site") << "aboutWindow" << "label_4";
-    QTest::newRow("colour wheel") << "exploreWorld" << "label_11";
-    QTest::newRow("pronunciation") << "exploreWorld" << "promptx_4";
-    QTest::newRow("second translator") << "exploreWorld" << "label_3";
-    QTest::newRow("changing the language") << "exploreWorld" << "label_5";
-    // clang-format on
-}
-
-void tst_Windows::links()
-{
-    QFETCH(QString, className);
-    QFETCH(QString, name);
-
-    const std::unique_ptr<QMainWindow> window = makeWindow(className);
-    const auto *label = window->findChild<QLabel *>(name);
-    QVERIFY(label);
-    QVERIFY(label->openExternalLinks());
-    QVERIFY2(
-        label->text().contains(QLatin1String("<a href=\"https://")), qPrintable(label->text()));
 }
 
 void tst_Windows::mapClick_data()
