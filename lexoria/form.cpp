@@ -246,12 +246,35 @@ void lexoria::setupUi(QMainWindow *window)
 
 void lexoria::buildTable(QWidget *central)
 {
-    for (std::size_t i = 0; i < mainFormRowCount; ++i) {
-        const WidgetRow &row = mainFormRows[i];
-        QWidget *parent = row.parent ? byName.value(QString::fromLatin1(row.parent)) : central;
-        QWidget *widget = makeWidget(row.kind, parent);
-        applyRow(widget, row);
-        byName.insert(widget->objectName(), widget);
+    struct Table
+    {
+        const WidgetRow *rows;
+        std::size_t count;
+    };
+    const Table tables[] = {
+        {mainFormRows, mainFormRowCount},
+        {aidFormRows, aidFormRowCount},
+    };
+    QList<std::pair<QWidget *, const WidgetRow *>> waiting;
+    for (const Table &table : tables) {
+        for (std::size_t i = 0; i < table.count; ++i) {
+            const WidgetRow &row = table.rows[i];
+            QWidget *parent = row.parent ? byName.value(QString::fromLatin1(row.parent)) : central;
+            QWidget *widget = makeWidget(row.kind, parent ? parent : central);
+            applyRow(widget, row);
+            if (!parent) {
+                widget->hide();
+                waiting.append({widget, &row});
+            }
+            byName.insert(widget->objectName(), widget);
+        }
+    }
+    for (const auto &[widget, row] : qAsConst(waiting)) {
+        if (QWidget *parent = byName.value(QString::fromLatin1(row->parent))) {
+            widget->setParent(parent);
+            widget->setGeometry(row->x, row->y, row->w, row->h);
+            widget->setVisible(!(row->flags & Hidden));
+        }
     }
 }
 

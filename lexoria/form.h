@@ -80,7 +80,14 @@ class QTableWidget;
     X(QLineEdit, leMatch)                                                                          \
     X(QLineEdit, leUser)                                                                           \
     X(QLCDNumber, lcd)                                                                             \
-    X(QTableWidget, table)
+    X(QTableWidget, table)                                                                         \
+    X(QPushButton, goldenHighlight)                                                                \
+    X(QPushButton, lineHighlight)                                                                  \
+    X(QPushButton, lineHighOptions)                                                                \
+    X(QPushButton, hint)                                                                           \
+    X(QPushButton, swapGradient6)                                                                  \
+    X(QFrame, frameLinehighlight)                                                                  \
+    X(QCheckBox, checkBox)
 
 namespace Ui {
 

@@ -31,7 +31,8 @@ enum Flag {
 };
 
 // One widget of the main window's form, read by a loop in setupUi. A null parent is the
-// central widget; otherwise the parent is a row that stands earlier in the table.
+// central widget; otherwise the parent is a row that stands earlier in the tables. A row whose
+// parent is not built yet waits hidden on the central widget until the parent is made.
 struct WidgetRow
 {
     Kind kind;
@@ -46,6 +47,8 @@ struct WidgetRow
 
 extern const WidgetRow mainFormRows[];
 extern const std::size_t mainFormRowCount;
+extern const WidgetRow aidFormRows[];
+extern const std::size_t aidFormRowCount;
 
 } // namespace formtable
 

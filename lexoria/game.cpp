@@ -5,6 +5,7 @@
 #include "lexoria/keycatalogue.h"
 #include "lexoria/restyle.h"
 
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QLCDNumber>
 #include <QLabel>
@@ -160,6 +161,8 @@ void lexoria::matchGameChooser()
     } else if (ui->rbReverse_2->isChecked()) {
         reverseIndex = group.reverseFirstIndex;
         ui->leMatch->setText(letterList[reverseIndex]);
+    } else if (ui->rbRandom_2->isChecked()) {
+        drawRandomLetter(100000);
     }
     ui->display3->clear();
     set_Match_StyleSheet();
@@ -223,7 +226,17 @@ void lexoria::matchGameEnable()
     ui->leUser->setEnabled(true);
     animationOff_function();
     isKeyPressedAll();
+    chebTimerId = startTimer(1000);
     displayBoth();
+    ui->hint->setEnabled(true);
+    restyle(ui->hint, QStringLiteral(" color: blue;  "));
+    goldHighActive = false;
+    lineHighActive = false;
+    ui->goldenHighlight->setEnabled(true);
+    ui->lineHighlight->setEnabled(true);
+    restyle(ui->goldenHighlight,
+        pieces.keyRadiusStyle + pieces.highlightBgStyle + pieces.highlightEnglishColorStyle);
+    lineHighOff();
     ui->display3->clear();
     ui->display3->hide();
     restyle(ui->start,
@@ -247,6 +260,7 @@ void lexoria::matchGameDisable()
         for (int i = 0; i < keycatalogue::paintKeyCount; ++i) {
             keyPulseLabels[i]->hide();
             keyEnglishLabels[i]->show();
+            keyImgLabels[i]->show();
         }
         for (QLabel *letter : qAsConst(keyLetterLabels))
             letter->show();
@@ -255,14 +269,24 @@ void lexoria::matchGameDisable()
             keyBgLabels[k]->show();
         }
     }
-    for (QLabel *image : qAsConst(keyImgLabels))
-        image->hide();
+    if (pictures.keysImageOn.isEmpty() || pictures.keysImageOn == QLatin1String("0")) {
+        for (QLabel *image : qAsConst(keyImgLabels))
+            image->hide();
+    }
     gameRunning = false;
     ui->animationOff->setEnabled(true);
     ui->animationOn->setEnabled(true);
     barAnimationOn = true;
     restyle(ui->animationOff, QStringLiteral("color: black;"));
     restyle(ui->animationOn, QStringLiteral("color: blue;"));
+    killChebTimer();
+    goldHighActive = false;
+    lineHighActive = false;
+    ui->goldenHighlight->setEnabled(false);
+    ui->lineHighlight->setEnabled(false);
+    lineHighOff();
+    restyle(ui->goldenHighlight,
+        pieces.keyRadiusStyle + pieces.highlightBgStyle + QStringLiteral("color: #6e6e6e"));
     restyle(
         ui->start, QStringLiteral("font-size: 16pt; font-family: 'MS Shell Dlg 2'; color: black;"));
     restyle(ui->stop,
@@ -272,6 +296,8 @@ void lexoria::matchGameDisable()
 void lexoria::judgeEntry()
 {
     const bool hasEntry = !ui->leUser->text().isEmpty();
+    if (hasEntry && correctCount <= randomStopCount && ui->rbRandom_2->isChecked())
+        randomMG();
     if (hasEntry && correctCount <= gameLength && ui->rbForward_2->isChecked())
         forwardMG();
     if (hasEntry && correctCount <= gameLength && ui->rbReverse_2->isChecked())
@@ -286,6 +312,10 @@ void lexoria::forwardMG()
             // The index stops at the end of the list even when a mid-game change of group
             // has made the game longer than the letters left.
             if (correctCount < gameLength - 1 && forwardIndex + 1 < letterList.size()) {
+                if (goldHighActive)
+                    goldHighOff();
+                if (lineHighActive)
+                    lineHighOff();
                 ++forwardIndex;
                 ui->leMatch->setText(letterList[forwardIndex]);
                 ++lastKeyIndex;
@@ -293,6 +323,10 @@ void lexoria::forwardMG()
             }
             ++correctCount;
             forwardIsKeyPressed();
+            if (goldHighActive)
+                goldHighOn();
+            if (lineHighActive)
+                lineHighOn();
             commentOn(forwardIndex);
         } else {
             ++incorrectCount;
@@ -306,6 +340,10 @@ void lexoria::reverseMG()
     const QString match = ui->leMatch->text();
     if (gameRunning && letterList.value(reverseIndex) == match) {
         if (ui->leUser->text() == match) {
+            if (goldHighActive)
+                goldHighOff();
+            if (lineHighActive)
+                lineHighOff();
             if (correctCount < gameLength - 1 && reverseIndex > 0) {
                 --reverseIndex;
                 ui->leMatch->setText(letterList[reverseIndex]);
@@ -313,6 +351,10 @@ void lexoria::reverseMG()
             set_Match_StyleSheet();
             ++correctCount;
             reverseIsKeyPressed();
+            if (goldHighActive)
+                goldHighOn();
+            if (lineHighActive)
+                lineHighOn();
             commentOn(reverseIndex);
         } else {
             ++incorrectCount;
@@ -340,6 +382,7 @@ void lexoria::finishGame(bool forward)
     matchGameDisable();
     set_Match_StyleSheet_italic();
     QTimer::singleShot(2000, this, &lexoria::wouldYouLikeToPlayAgain);
+    killChebTimer();
 
     const GroupInfo &group = groups[currentGroup()];
     const int last = forward ? group.forwardFinalLetter : group.reverseFinalLetter;
@@ -350,6 +393,7 @@ void lexoria::finishGame(bool forward)
     stopCounter();
     restyle(ui->labelCorrect, italicScore);
     restyle(ui->labelIncorrect, italicScore);
+    killGoldHighForGoodAtEnd();
 }
 
 void lexoria::forwardIsKeyPressed()
@@ -461,8 +505,9 @@ void lexoria::set_User_StyleSheet()
     }
     // Reverse games end on а, the upper-case one on А; random games by their group.
     const QString &font = capitals ? pieces.upperFontStyle : pieces.lowerFontStyle;
-    restyle(ui->leUser, QStringLiteral("background-color: transparent; ") + font
-            + pieces.userTextColorStyle + QStringLiteral(" font-size: 24pt; border: none;"));
+    restyle(ui->leUser,
+        QStringLiteral("background-color: transparent; ") + font + pieces.userTextColorStyle
+            + QStringLiteral(" font-size: 24pt; border: none;"));
 }
 
 void lexoria::clears()
@@ -505,6 +550,8 @@ void lexoria::stopCounter()
 
 void lexoria::timerEvent(QTimerEvent *event)
 {
+    if (chebTimerId != 0 && event->timerId() == chebTimerId)
+        chebTick();
     if (clockTimerId != 0 && event->timerId() == clockTimerId) {
         ++clockSeconds;
         ui->lcd->display(clockSeconds);

@@ -141,6 +141,12 @@ void lexoria::key(int n)
     restyle(keyEnglishLabels[k - 1], pieces.keypressEnglishColorStyle + pieces.englishFontStyle);
     restyle(keyBgLabels[k - 1],
         pieces.keyRadiusStyle + pieces.keypressBgStyle + pieces.keypressBorderStyle);
+    if (pictures.keypressImageOn == QLatin1String("1")) {
+        keyImgLabels[k - 1]->show();
+        keyImgLabels[k - 1]->setMovie(&pictures.keypressMovie);
+    }
+    if (goldHighActive)
+        keyGoldHigh(n);
     if (ui->keyFlash->isChecked())
         QTimer::singleShot(keyFlashMs, this, [this, n] { changeColorBack(n); });
 }
@@ -180,6 +186,20 @@ void lexoria::changeColorBack(int n)
     else
         restyle(keyBgLabels[k - 1],
             pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle);
+
+    QLabel *image = keyImgLabels[k - 1];
+    if (pictures.keypressImageOn == QLatin1String("1")
+        || pictures.mouseoverImageOn == QLatin1String("1"))
+        image->hide();
+    if (pictures.keysImageOn == QLatin1String("1")) {
+        image->setMovie(&pictures.keysMovie);
+        image->show();
+    }
+    if (randomPulseFlags[n])
+        image->hide();
+    // Restoring the key of the letter to find must not wipe its highlight.
+    if (goldHighActive)
+        goldHighOn();
 }
 
 void lexoria::allChangeColorBack()

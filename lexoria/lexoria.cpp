@@ -120,6 +120,8 @@ lexoria::lexoria(QWidget *parent)
         restyle(keyBgLabels[k], restFace);
     restyle(ui->aKeysMap5, restFace);
 
+    setUpAids();
+
     restyle(
         ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));
     ui->wallpaper->lower();
@@ -152,7 +154,8 @@ void lexoria::createSecondaryWindows()
         });
     };
     opens(openingWin->ui->openInstructions, [this]() -> QMainWindow * { return instructionsWin; });
-    opens(openingWin->ui->owInstructionsForSE, [this]() -> QMainWindow * { return selfExploreWin; });
+    opens(
+        openingWin->ui->owInstructionsForSE, [this]() -> QMainWindow * { return selfExploreWin; });
     opens(openingWin->ui->owExploreTheWorld, [this]() -> QMainWindow * { return exploreWorldWin; });
     opens(openingWin->ui->owAboutButton, [this]() -> QMainWindow * { return aboutWin; });
 

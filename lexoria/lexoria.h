@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QMainWindow>
+#include <QMovie>
 #include <QPixmap>
 #include <QStringList>
 
@@ -94,6 +95,31 @@ public slots:
     void wouldYouLikeToPlayAgain();
     void clearGoodJob();
 
+    // Help while playing: the gold highlight, the guide lines, the hint, the instructor's stir
+    void setGoldHigh();
+    void goldHighOn();
+    void goldHighOff();
+    void keyGoldHigh(int n);
+    void killGoldHighForGoodAtEnd();
+    void setLineHigh();
+    void lineHighOn();
+    void lineHighOff();
+    void lineHighOptions_function();
+    void lineHighlightLower();
+    void lineHighlightRaise();
+    void fillLinehighlightH();
+    void fillLinehighlightV();
+    void hint2();
+    void boolFlag2();
+    void killChebTimer();
+    void cheb0();
+    void cheb1();
+    void cheb2();
+
+    // The random game
+    void randomMG();
+    void randomFlags();
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
@@ -118,6 +144,11 @@ private:
     int currentGroup() const;
     int letterNumberOfText(const QString &text) const;
     QString fieldStyle(bool italic, const QString &font, const QString &colour) const;
+    void setUpAids();
+    void showLinesOfMatch(bool shown);
+    void chebTick();
+    bool drawRandomLetter(int modulus);
+    void finishRandomGame();
 
     void showDisplayMark(const char *mark);
     const QString &fontPiece(int n) const;
@@ -154,6 +185,19 @@ private:
         QString paintUnderscoreRightColor;
     } painted;
 
+    // Pictures behind the letters of the keys; the "On" flags are "1" or "0", empty counts as off.
+    struct Pictures
+    {
+        QString keysImageOn;
+        QString keypressImageOn = QStringLiteral("0");
+        QString highlightImageOn = QStringLiteral("0");
+        QString mouseoverImageOn;
+        QMovie keysMovie;
+        QMovie keypressMovie;
+        QMovie highlightMovie;
+        QMovie mouseoverMovie;
+    } pictures;
+
     bool gameRunning = false;
     bool gameCompleted = false;
     int gameLength = 94;
@@ -163,6 +207,7 @@ private:
     int reverseIndex = 93;
     int randomIndex = 0;
     int randomStopCount = 200;
+    std::array<bool, 95> randomPulseFlags {};
     int lastKeyIndex = 0;
     std::array<bool, 95> letterDone {};
     bool barAnimationOn = true;
@@ -173,6 +218,15 @@ private:
 
     int clockSeconds = 0;
     int clockTimerId = 0;
+
+    bool goldHighActive = false;
+    bool lineHighActive = false;
+    bool lineOptionsOpen = false;
+    bool hintReady = true;
+    int chebTimerId = 0;
+    int chebTicks = 0;
+    QList<QLabel *> horizontalLines;
+    QList<QLabel *> verticalLines;
 
     int keyFlashMs = 300;
     int barStepMs = 50;

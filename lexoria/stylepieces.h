@@ -34,6 +34,10 @@ struct StylePieces
     QString mouseoverRussianColorStyle = " color: blue; ";
     QString highlightEnglishColorStyle = "color: black;";
     QString highlightRussianColorStyle = "color: black;";
+    // The press colours shown on the gold key; pickers 4 and 5 keep them equal to the keypress
+    // ones.
+    QString goldKeyEnglishColorStyle = keypressEnglishColorStyle;
+    QString goldKeyRussianColorStyle = keypressRussianColorStyle;
 
     QString englishFontStyle = "font-family: Calibri;";
     QString upperFontStyle = "font-family: Arial Unicode MS;";
@@ -52,6 +56,21 @@ struct StylePieces
     QString gamePlayBorderStyle = "border: 1px solid #6e6e6e;";
     QString matchTextColorStyle = "color: black;";
     QString userTextColorStyle = "color: black;";
+
+    // The guide lines: one colour set for the bars across, one for the bars down.
+    QString lineHorizontalColor = "blue";
+    QString lineHorizontalGradColor = "blue";
+    QString lineHorizontalRadialColor = "blue";
+    QString lineHorizontalRadialGradColor = "blue";
+    QString lineVerticalColor = "blue";
+    QString lineVerticalGradColor = "blue";
+    QString lineVerticalRadialColor = "blue";
+    QString lineVerticalRadialGradColor = "blue";
+    QString lineGradStop = ".5";
+    QString lineHighHorizontalStyle
+        = verticalGradient(lineHorizontalGradColor, lineGradStop, lineHorizontalColor);
+    QString lineHighVerticalStyle
+        = verticalGradient(lineVerticalGradColor, lineGradStop, lineVerticalColor);
 };
 
 #endif
