@@ -66,15 +66,15 @@ const WidgetRow aidFormRows[] = {
     // Creation order is stacking order; the constructor then lowers the lines of the first
     // sample under its key, so the two samples show the lines behind and over the keys.
     {Label, "linePosition1BG", "frameLinehighlight", 34, 50, 54, 54, "", sampleFace, "", 0},
-    {Label, "liHordisplay_2", "frameLinehighlight", 24, 90, 74, 5, "", sampleLine, "", 0},
-    {Label, "lhVertDisplay_3", "frameLinehighlight", 74, 40, 5, 74, "", sampleLine, "", 0},
+    {Label, "liHordisplay_2", "frameLinehighlight", 24, 74, 74, 5, "", sampleLine, "", 0},
+    {Label, "lhVertDisplay_3", "frameLinehighlight", 58, 40, 5, 74, "", sampleLine, "", 0},
     {Label, "linePosition1English", "frameLinehighlight", 34, 50, 54, 54, " Z", "",
         "Lines run behind the keys", TopLeft},
     {Label, "linePosition2BG", "frameLinehighlight", 134, 50, 54, 54, "", sampleFace, "", 0},
     {Label, "linePosition2Lowercase", "frameLinehighlight", 134, 50, 54, 54, "я ", "",
         "Lines run over the keys", BottomRight},
-    {Label, "liHordisplay_3", "frameLinehighlight", 124, 90, 74, 5, "", sampleLine, "", 0},
-    {Label, "lhVertDisplay_2", "frameLinehighlight", 174, 40, 5, 74, "", sampleLine, "", 0},
+    {Label, "liHordisplay_3", "frameLinehighlight", 124, 74, 74, 5, "", sampleLine, "", 0},
+    {Label, "lhVertDisplay_2", "frameLinehighlight", 158, 40, 5, 74, "", sampleLine, "", 0},
     {PushButton, "swapGradient6", nullptr, 1464, 103, 30, 27, "D", "font: 14pt \"Wingdings 3\";",
         "", 0},
 

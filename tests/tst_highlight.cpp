@@ -51,8 +51,6 @@ private slots:
     void pressOnTheGoldKeyKeepsTheGold();
     void linesCrossOnTheLetter_data();
     void linesCrossOnTheLetter();
-    void linesRunBehindTheKeysUnlessRaised();
-    void linesOptionsPanelMovesInAndOut();
     void hintFlashesTheKeyThreeTimes();
     void instructorStirsEveryTwentySeconds();
 
@@ -248,6 +246,10 @@ void tst_Highlight::linesCrossOnTheLetter()
     QCOMPARE(across, QRect(0, crossing.y(), 1211, 5));
     QCOMPARE(down, QRect(crossing.x(), 0, 5, 695));
     QVERIFY(window->findChild<QWidget *>(faceOf(n))->geometry().contains(crossing));
+    // Behind the keys, over the wallpaper.
+    const QObjectList stack = window->centralWidget()->children();
+    QVERIFY(stack.indexOf(game->label("wallpaper")) < stack.indexOf(game->label(lines[1])));
+    QVERIFY(stack.indexOf(game->label(lines[0])) < stack.indexOf(game->label(faceOf(n))));
 
     game->type(n);
     game->space();
@@ -255,36 +257,6 @@ void tst_Highlight::linesCrossOnTheLetter()
 
     game->click("stop");
     QCOMPARE(shownLines(), QStringList());
-}
-
-void tst_Highlight::linesRunBehindTheKeysUnlessRaised()
-{
-    auto level = [&](const char *name) {
-        return window->centralWidget()->children().indexOf(window->findChild<QWidget *>(name));
-    };
-    QVERIFY(level("wallpaper") < level("v6"));
-    QVERIFY(level("h3") < level("bg6"));
-
-    window->lineHighlightRaise();
-    QVERIFY(level("h3") > level("shield6"));
-    QVERIFY(level("v6") > level("r1_2"));
-    window->lineHighlightLower();
-    QVERIFY(level("wallpaper") < level("h3"));
-    QVERIFY(level("v6") < level("bg6"));
-}
-
-void tst_Highlight::linesOptionsPanelMovesInAndOut()
-{
-    QWidget *panel = window->findChild<QWidget *>("frameLinehighlight");
-    QVERIFY(panel->isHidden());
-    game->click("lineHighOptions");
-    QVERIFY(panel->isVisible());
-    QCOMPARE(panel->pos(), QPoint(0, 0));
-    QCOMPARE(game->button("swapGradient6")->pos(), QPoint(466, 118));
-    game->click("lineHighOptions");
-    QVERIFY(panel->isHidden());
-    QCOMPARE(panel->pos(), QPoint(1500, 0));
-    QCOMPARE(game->button("swapGradient6")->pos(), QPoint(1464, 103));
 }
 
 void tst_Highlight::hintFlashesTheKeyThreeTimes()
