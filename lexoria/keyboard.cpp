@@ -218,20 +218,45 @@ void lexoria::clearFocusEverywhere()
     }
 }
 
+void lexoria::displayNone()
+{
+    // The covers lie over the letters and faces and under the shields, so the hover still
+    // lights the bar while the keys stay dark.
+    phantomLablesShow();
+    showDisplayMark("checkNone");
+}
+
+void lexoria::displayLexoria()
+{
+    showLettersOnKeys(true, false);
+    showDisplayMark("checkRussian");
+}
+
+void lexoria::displayEnglish()
+{
+    showLettersOnKeys(false, true);
+    showDisplayMark("checkEnglish");
+}
+
 void lexoria::displayBoth()
+{
+    showLettersOnKeys(true, true);
+    showDisplayMark("checkBoth");
+}
+
+void lexoria::showLettersOnKeys(bool russian, bool english)
 {
     phantomLablesHide();
     allChangeColorBack();
-    // show() polishes a widget even inside a hidden window, so leave shown ones alone.
-    for (QLabel *letter : qAsConst(keyLetterLabels)) {
-        if (letter->isHidden())
-            letter->show();
-    }
-    for (int k = 0; k < characterKeyCount; ++k) {
-        if (keyEnglishLabels[k]->isHidden())
-            keyEnglishLabels[k]->show();
-    }
-    showDisplayMark("checkBoth");
+    // show() polishes a widget even inside a hidden window, so leave alone what already fits.
+    auto setShown = [](QLabel *label, bool shown) {
+        if (label->isHidden() == shown)
+            label->setVisible(shown);
+    };
+    for (QLabel *letter : qAsConst(keyLetterLabels))
+        setShown(letter, russian);
+    for (int k = 0; k < characterKeyCount; ++k)
+        setShown(keyEnglishLabels[k], english);
 }
 
 // The mode of the letters on the keys is held by nothing but which check mark shows.

@@ -52,6 +52,7 @@ lexoria::lexoria(QWidget *parent)
     ui->labelScoreboard->lower();
     fillBgList();
     fillShieldList();
+    installHoverFilter();
 
     connect(ui->pbQuit, &QPushButton::clicked, this, &QWidget::close);
     connectGameControls();

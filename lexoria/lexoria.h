@@ -3,6 +3,7 @@
 
 #include "lexoria/stylepieces.h"
 
+#include <QHash>
 #include <QList>
 #include <QMainWindow>
 #include <QMovie>
@@ -10,6 +11,7 @@
 #include <QStringList>
 
 #include <array>
+#include <cstddef>
 
 class QLabel;
 class aboutWindow;
@@ -50,6 +52,9 @@ public slots:
     void letterOAlphabetNone();
     void phantomLablesShow();
     void phantomLablesHide();
+    void displayNone();
+    void displayLexoria();
+    void displayEnglish();
     void displayBoth();
     void aKeysMap_function();
     void hideInsLeft();
@@ -121,6 +126,8 @@ public slots:
     void randomFlags();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -151,6 +158,24 @@ private:
     void finishRandomGame();
 
     void showDisplayMark(const char *mark);
+    void showLettersOnKeys(bool russian, bool english);
+
+    // The mouse: hover and clicks are dispatched by the tables of mouse.cpp.
+    struct HoverRow;
+    struct ClickRow;
+    struct HoverTarget
+    {
+        const HoverRow *row;
+        int number;
+    };
+    static const HoverRow *hoverRows(std::size_t *count);
+    static const ClickRow *clickRows(std::size_t *count);
+    void installHoverFilter();
+    void barHover(int n);
+    void keyHover(int k);
+    void keyLeave(int k);
+    void mouseoverImage(int k);
+    void fontComboFocus(const char *name);
     const QString &fontPiece(int n) const;
     const QString &colourPiece(int n) const;
     bool rowPainted(int n) const;
@@ -215,6 +240,11 @@ private:
     bool insRightShown = true;
     bool insLeftShown = true;
     bool aKeysMapShown = true;
+
+    QHash<const QObject *, HoverTarget> hoverTargets;
+    // Bar hover enlarges the letter in its cell and shrinks it a little on its key.
+    QString hoverBarFontStyle = " font: 13.5pt; ";
+    QString hoverKeyFontStyle = " font: 13.25pt 'arial unicode ms'; ";
 
     int clockSeconds = 0;
     int clockTimerId = 0;

@@ -1,0 +1,410 @@
+// Clicks go through the platform layer, as a user's do, so that underMouse() holds for the
+// label under the pointer, which is how the main window finds what was clicked.
+#define QTEST_QPA_MOUSE_HANDLING
+
+#include "gamedriver.h"
+
+#include <QApplication>
+
+#include <memory>
+
+using Styles = QMap<QString, QString>;
+Q_DECLARE_METATYPE(Styles)
+
+namespace {
+
+const QString gold = "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, "
+                     "stop: 0 gold, stop: .5  gold);";
+const QString litCell = "border-radius: 10px;" + gold;
+const QString litFace = "border-radius: 10px;" + gold;
+const QString blue = " color: blue; ";
+const QString upperFont = "font-family: Arial Unicode MS;";
+const QString litEnglish = blue + "font-family: Calibri;";
+const QString barFont = " font: 13.5pt; ";
+const QString keyFont = " font: 13.25pt 'arial unicode ms'; ";
+const QString captionLit = " color:blue; font: 9pt 'MS Shell Dlg 2' ; ";
+const QString captionDark = " color:black; font: 9pt 'MS Shell Dlg 2' ; ";
+
+void hover(QWidget *widget, QEvent::Type type)
+{
+    QEvent event(type);
+    QApplication::sendEvent(widget, &event);
+}
+
+} // namespace
+
+class tst_Mouse : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void hoverLightsAndLeaveRestores_data();
+    void hoverLightsAndLeaveRestores();
+    void letterNumberFollowsTheMouse_data();
+    void letterNumberFollowsTheMouse();
+    void leaveRestoresAFinishedLetter();
+    void sampleHoverLightsItsCaption_data();
+    void sampleHoverLightsItsCaption();
+    void startAndStopKeepTheirLookUnderTheMouse();
+
+    void lettersDisplayed_data();
+    void lettersDisplayed();
+    void noneOnlyCoversTheKeys();
+    void startGoesBackToBoth();
+    void onlyAPlainLeftClickCounts_data();
+    void onlyAPlainLeftClickCounts();
+    void clickOnKeyOrBarChangesNothing();
+
+private:
+    QLabel *label(const QString &name) const { return window->findChild<QLabel *>(name); }
+    Styles allStyles() const;
+    QStringList visibleMarks() const;
+    void moveTo(const QString &name);
+    void clickOn(const QString &name, Qt::MouseButton button = Qt::LeftButton);
+
+    std::unique_ptr<lexoria> window;
+};
+
+void tst_Mouse::init()
+{
+    window = std::make_unique<lexoria>();
+    window->openLexoria();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    // The first move into a new window only tells Qt where the pointer is, and a move to where
+    // the pointer already was is dropped; enter and leave follow from the next move on.
+    QTest::mouseMove(window.get(), QPoint(600, 30));
+    QTest::mouseMove(window.get(), QPoint(601, 30));
+}
+
+void tst_Mouse::cleanup()
+{
+    window.reset();
+}
+
+Styles tst_Mouse::allStyles() const
+{
+    Styles styles;
+    for (QWidget *each : window->findChildren<QWidget *>())
+        styles.insert(each->objectName(), each->styleSheet());
+    return styles;
+}
+
+QStringList tst_Mouse::visibleMarks() const
+{
+    QStringList marks;
+    for (const char *mark : {"checkNone", "checkRussian", "checkEnglish", "checkBoth"}) {
+        if (label(mark)->isVisible())
+            marks.append(mark);
+    }
+    return marks;
+}
+
+void tst_Mouse::moveTo(const QString &name)
+{
+    auto *widget = window->findChild<QWidget *>(name);
+    QTest::mouseMove(widget, widget->rect().center());
+}
+
+void tst_Mouse::clickOn(const QString &name, Qt::MouseButton button)
+{
+    moveTo(name);
+    auto *widget = window->findChild<QWidget *>(name);
+    QTest::mouseClick(widget, button, Qt::NoModifier, widget->rect().center());
+}
+
+void tst_Mouse::hoverLightsAndLeaveRestores_data()
+{
+    QTest::addColumn<QString>("watched");
+    QTest::addColumn<Styles>("lit");
+
+    // Bar hover: one character in both places with the size pieces; its key's other letter and
+    // the key's underscore stay at rest.
+    QTest::newRow("bar, lower row а")
+        << "r1"
+        << Styles {{"r1bg", litCell}, {"r1", blue + barFont}, {"r1_2", blue + keyFont},
+               {"r6_3", litEnglish}, {"bg6", litFace}, {"r34", "color: white;" + upperFont},
+               {"r34_2", "color: white;" + upperFont},
+               {"underscore_left", "color: white;font-family: Calibri;"}};
+    QTest::newRow("bar, upper row Ж")
+        << "r41"
+        << Styles {{"r41bg", litCell}, {"r41", blue + barFont + upperFont},
+               {"r41_2", blue + keyFont + upperFont}, {"r43_3", litEnglish}, {"bg43", litFace},
+               {"r8_2", "color: white;"}};
+    QTest::newRow("bar, number line \"")
+        << "r80"
+        << Styles {{"r80bg", litCell}, {"r80", blue + barFont + upperFont},
+               {"r80_2", blue + keyFont + upperFont}, {"r29_3", litEnglish}, {"bg29", litFace},
+               {"r68_2", "color: white;"}};
+
+    // Key hover: both characters in both places, without the size pieces.
+    QTest::newRow("key F with its underscore")
+        << "shield6"
+        << Styles {{"r1bg", litCell}, {"r34bg", litCell}, {"r1", blue}, {"r1_2", blue},
+               {"r34", blue + upperFont}, {"r34_2", blue + upperFont}, {"r6_3", litEnglish},
+               {"underscore_left", litEnglish}, {"bg6", litFace},
+               {"underscore_right", "color: white;font-family: Calibri;"}};
+    QTest::newRow("key J with its underscore")
+        << "shield10"
+        << Styles {{"r16", blue}, {"r49_2", blue + upperFont}, {"r10_3", litEnglish},
+               {"underscore_right", litEnglish}, {"bg10", litFace}};
+    QTest::newRow("key 2 without one")
+        << "shield29"
+        << Styles {{"r68bg", litCell}, {"r80bg", litCell}, {"r68_2", blue},
+               {"r80", blue + upperFont}, {"r29_3", litEnglish}, {"bg29", litFace}};
+}
+
+void tst_Mouse::hoverLightsAndLeaveRestores()
+{
+    QFETCH(QString, watched);
+    QFETCH(Styles, lit);
+
+    const Styles rest = allStyles();
+    hover(label(watched), QEvent::Enter);
+    const Styles during = allStyles();
+    for (auto it = lit.cbegin(); it != lit.cend(); ++it)
+        QCOMPARE(qMakePair(it.key(), during.value(it.key())), qMakePair(it.key(), it.value()));
+
+    hover(label(watched), QEvent::Leave);
+    QCOMPARE(allStyles(), rest);
+}
+
+void tst_Mouse::letterNumberFollowsTheMouse_data()
+{
+    QTest::addColumn<QString>("watched");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("bar ё") << "r7"
+                           << "Letter-number: 7";
+    QTest::newRow("bar Ё is the same place") << "r40"
+                                             << "Letter-number: 7";
+    QTest::newRow("bar Я") << "r66"
+                           << "Letter-number: 33";
+    QTest::newRow("bar digit clears") << "r67" << QString();
+    QTest::newRow("bar sign clears") << "r94" << QString();
+    QTest::newRow("key ё in the number row") << "shield27"
+                                             << "Letter-number: 7";
+    QTest::newRow("key Z") << "shield26"
+                           << "Letter-number: 33";
+    QTest::newRow("digit key clears") << "shield28" << QString();
+    QTest::newRow("key 42 clears") << "shield42" << QString();
+    QTest::newRow("key 47 clears") << "shield47" << QString();
+}
+
+void tst_Mouse::letterNumberFollowsTheMouse()
+{
+    QFETCH(QString, watched);
+    QFETCH(QString, expected);
+
+    // Start from a number on show, so that clearing it can be seen.
+    hover(label("r20"), QEvent::Enter);
+    hover(label("r20"), QEvent::Leave);
+    QCOMPARE(label("letterOfAlphabet2")->text(), QString("Letter-number: 20"));
+
+    hover(label(watched), QEvent::Enter);
+    QCOMPARE(label("letterOfAlphabet2")->text(), expected);
+}
+
+void tst_Mouse::leaveRestoresAFinishedLetter()
+{
+    GameDriver game(window.get());
+    game.startGame("pbForwardVarious");
+    game.type(1);
+    game.space();
+    const QString finishedCell = label("r1bg")->styleSheet();
+    QVERIFY(finishedCell.contains("rgb(115, 115, 115)"));
+
+    // The mouse on the key lights the finished cell too; leaving brings the finished look back.
+    for (const char *watched : {"r1", "shield6"}) {
+        hover(label(watched), QEvent::Enter);
+        QCOMPARE(label("r1bg")->styleSheet(), litCell);
+        hover(label(watched), QEvent::Leave);
+        QCOMPARE(label("r1bg")->styleSheet(), finishedCell);
+        QCOMPARE(label("r1")->styleSheet(), QString(" color: white; "));
+    }
+}
+
+void tst_Mouse::sampleHoverLightsItsCaption_data()
+{
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("caption");
+
+    QTest::newRow("None") << "rcNone"
+                          << "none";
+    QTest::newRow("Russian") << "rcRussian"
+                             << "russian2";
+    QTest::newRow("English") << "rcEnglish"
+                             << "english";
+    QTest::newRow("Both") << "rcBoth"
+                          << "both";
+}
+
+void tst_Mouse::sampleHoverLightsItsCaption()
+{
+    QFETCH(QString, sample);
+    QFETCH(QString, caption);
+
+    moveTo(sample);
+    QCOMPARE(label(caption)->styleSheet(), captionLit);
+    moveTo("labelOptions");
+    QCOMPARE(label(caption)->styleSheet(), captionDark);
+}
+
+void tst_Mouse::startAndStopKeepTheirLookUnderTheMouse()
+{
+    auto *start = window->findChild<QPushButton *>("start");
+    auto *stop = window->findChild<QPushButton *>("stop");
+    const QString idleStart = start->styleSheet();
+    const QString idleStop = stop->styleSheet();
+
+    moveTo("stop");
+    QCOMPARE(
+        stop->styleSheet(), idleStop + " font-weight: bold; color: maroon;  text-align: center;");
+    moveTo("start");
+    QCOMPARE(stop->styleSheet(), idleStop);
+    QCOMPARE(start->styleSheet(),
+        idleStart + " font-weight: bold; color: rgb(0, 94, 0);  text-align: center;");
+
+    // The click restyles Start for the running game; leaving must not bring the idle look back.
+    QTest::mouseClick(start, Qt::LeftButton);
+    const QString runningStart = start->styleSheet();
+    QVERIFY(runningStart.contains("font-size: 16pt"));
+    moveTo("labelOptions");
+    QCOMPARE(start->styleSheet(), runningStart);
+    QVERIFY(runningStart != idleStart);
+}
+
+void tst_Mouse::lettersDisplayed_data()
+{
+    QTest::addColumn<QString>("clicked");
+    QTest::addColumn<QString>("mark");
+    QTest::addColumn<bool>("russian");
+    QTest::addColumn<bool>("english");
+    QTest::addColumn<bool>("covers");
+
+    QTest::newRow("None by sample") << "rcNone"
+                                    << "checkNone" << true << true << true;
+    QTest::newRow("None by caption") << "none"
+                                     << "checkNone" << true << true << true;
+    QTest::newRow("Russian by sample") << "rcRussian"
+                                       << "checkRussian" << true << false << false;
+    QTest::newRow("Russian by caption") << "russian2"
+                                        << "checkRussian" << true << false << false;
+    QTest::newRow("English by sample") << "rcEnglish"
+                                       << "checkEnglish" << false << true << false;
+    QTest::newRow("English by caption") << "english"
+                                        << "checkEnglish" << false << true << false;
+    QTest::newRow("Both by sample") << "rcBoth"
+                                    << "checkBoth" << true << true << false;
+    QTest::newRow("Both by caption") << "both"
+                                     << "checkBoth" << true << true << false;
+}
+
+void tst_Mouse::lettersDisplayed()
+{
+    QFETCH(QString, clicked);
+    QFETCH(QString, mark);
+    QFETCH(bool, russian);
+    QFETCH(bool, english);
+    QFETCH(bool, covers);
+
+    QCOMPARE(visibleMarks(), QStringList {"checkBoth"});
+    // Leave Both first, through the covers, so that every mode has to undo another one.
+    clickOn("none");
+    // A key left lit by the mouse is repainted by every mode that shows letters.
+    hover(label("shield6"), QEvent::Enter);
+
+    clickOn(clicked);
+    QCOMPARE(visibleMarks(), QStringList {mark});
+    for (int n : {1, 40, 67, 94})
+        QCOMPARE(label(QStringLiteral("r%1_2").arg(n))->isVisible(), russian);
+    for (int k : {1, 27, 42, 47})
+        QCOMPARE(label(QStringLiteral("r%1_3").arg(k))->isVisible(), english);
+    for (int cover : {1, 47, 48, 54})
+        QCOMPARE(label(QStringLiteral("displayNone%1").arg(cover))->isVisible(), covers);
+    // The bar, the control captions and the underscores never hide.
+    for (const char *always : {"r1", "r94", "labelTab", "labelSpacebar", "underscore_left"})
+        QVERIFY2(label(always)->isVisible(), always);
+    if (!covers)
+        QCOMPARE(label("bg6")->styleSheet(), label("bg7")->styleSheet());
+}
+
+void tst_Mouse::noneOnlyCoversTheKeys()
+{
+    clickOn("english");
+    hover(label("shield6"), QEvent::Enter);
+    Styles lit = allStyles();
+
+    clickOn("rcNone");
+    QCOMPARE(visibleMarks(), QStringList {"checkNone"});
+    QVERIFY(label("displayNone6")->isVisible());
+    QVERIFY(!label("r1_2")->isVisible());
+    QVERIFY(label("r6_3")->isVisible());
+    Styles now = allStyles();
+    for (const char *caption : {"none", "english"}) {
+        lit.remove(caption);
+        now.remove(caption);
+    }
+    QCOMPARE(now, lit);
+
+    // The bar still answers the mouse over a covered key.
+    hover(label("shield6"), QEvent::Leave);
+    hover(label("shield10"), QEvent::Enter);
+    QCOMPARE(label("r16bg")->styleSheet(), litCell);
+    QCOMPARE(label("letterOfAlphabet2")->text(), QString("Letter-number: 16"));
+}
+
+void tst_Mouse::startGoesBackToBoth()
+{
+    for (const char *mode : {"rcNone", "rcEnglish", "rcRussian"}) {
+        clickOn(mode);
+        window->findChild<QPushButton *>("start")->click();
+        QCOMPARE(visibleMarks(), QStringList {"checkBoth"});
+        QVERIFY(!label("displayNone1")->isVisible());
+        QVERIFY(label("r1_2")->isVisible());
+        QVERIFY(label("r1_3")->isVisible());
+    }
+}
+
+void tst_Mouse::onlyAPlainLeftClickCounts_data()
+{
+    QTest::addColumn<QList<int>>("buttons");
+    QTest::addColumn<QString>("mark");
+
+    QTest::newRow("left") << QList<int> {Qt::LeftButton} << "checkEnglish";
+    QTest::newRow("right") << QList<int> {Qt::RightButton} << "checkBoth";
+    QTest::newRow("middle") << QList<int> {Qt::MiddleButton} << "checkBoth";
+    QTest::newRow("right, then left with right held")
+        << QList<int> {Qt::RightButton, Qt::LeftButton} << "checkBoth";
+}
+
+void tst_Mouse::onlyAPlainLeftClickCounts()
+{
+    QFETCH(QList<int>, buttons);
+    QFETCH(QString, mark);
+
+    QLabel *sample = label("rcEnglish");
+    moveTo("rcEnglish");
+    for (int button : buttons)
+        QTest::mousePress(sample, Qt::MouseButton(button), Qt::NoModifier, sample->rect().center());
+    QCOMPARE(visibleMarks(), QStringList {mark});
+    for (int button : buttons)
+        QTest::mouseRelease(
+            sample, Qt::MouseButton(button), Qt::NoModifier, sample->rect().center());
+}
+
+void tst_Mouse::clickOnKeyOrBarChangesNothing()
+{
+    for (const char *target : {"shield5", "r3", "shield42", "r90"}) {
+        moveTo(target);
+        const Styles before = allStyles();
+        clickOn(target);
+        QCOMPARE(allStyles(), before);
+        QCOMPARE(visibleMarks(), QStringList {"checkBoth"});
+    }
+}
+
+QTEST_MAIN(tst_Mouse)
+#include "tst_mouse.moc"
