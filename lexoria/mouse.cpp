@@ -146,6 +146,9 @@ const lexoria::HoverRow *lexoria::hoverRows(std::size_t *count)
 const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
 {
     static const ClickRow rows[] = {
+        {{"linePosition1English"}, [](lexoria &w) { w.lineHighlightLower(); }},
+        {{"linePosition2Lowercase", "lhVertDisplay_2", "liHordisplay_3"},
+            [](lexoria &w) { w.lineHighlightRaise(); }},
         // A font combo box holding the focus would take every key from the game, so any left
         // click elsewhere takes it back.
         {{}, [](lexoria &w) { w.fontComboFocus("fontComboBoxUppercase"); }},
@@ -278,6 +281,10 @@ void lexoria::keyLeave(int k)
 void lexoria::mouseoverImage(int k)
 {
     QLabel *image = keyImgLabels[k - 1];
-    if (!image->isHidden())
+    if (pictures.mouseoverImageOn == QLatin1String("1")) {
+        image->show();
+        image->setMovie(&pictures.mouseoverMovie);
+    } else if (!image->isHidden()) {
         image->hide();
+    }
 }

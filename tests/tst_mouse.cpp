@@ -53,6 +53,7 @@ private slots:
     void letterNumberFollowsTheMouse_data();
     void letterNumberFollowsTheMouse();
     void leaveRestoresAFinishedLetter();
+    void leaveBringsTheHighlightBack();
     void sampleHoverLightsItsCaption();
     void startAndStopKeepTheirLookUnderTheMouse();
 
@@ -62,6 +63,7 @@ private slots:
     void onlyAPlainLeftClickCounts_data();
     void onlyAPlainLeftClickCounts();
     void clickOnKeyOrBarChangesNothing();
+    void linePositionSamplesMoveTheLines();
 
 private:
     QLabel *label(const QString &name) const { return window->findChild<QLabel *>(name); }
@@ -219,6 +221,22 @@ void tst_Mouse::leaveRestoresAFinishedLetter()
     }
 }
 
+void tst_Mouse::leaveBringsTheHighlightBack()
+{
+    GameDriver game(window.get());
+    game.startGame("pbForwardVarious");
+    game.click("goldenHighlight");
+    const Styles gold = allStyles();
+    QCOMPARE(label("r1_2")->styleSheet(), QString("color: black;"));
+
+    for (const char *watched : {"shield6", "r1"}) {
+        hover(label(watched), QEvent::Enter);
+        QVERIFY(label("r1_2")->styleSheet().startsWith(blue));
+        hover(label(watched), QEvent::Leave);
+        QCOMPARE(allStyles(), gold);
+    }
+}
+
 void tst_Mouse::sampleHoverLightsItsCaption()
 {
     for (const auto &[sample, caption] : modes) {
@@ -352,6 +370,21 @@ void tst_Mouse::clickOnKeyOrBarChangesNothing()
         clickOn(target);
         QCOMPARE(allStyles(), before);
         QCOMPARE(visibleMarks(), QStringList {"checkBoth"});
+    }
+}
+
+void tst_Mouse::linePositionSamplesMoveTheLines()
+{
+    window->findChild<QPushButton *>("lineHighOptions")->click();
+    auto raised = [this] {
+        const QObjectList stack = window->centralWidget()->children();
+        return stack.indexOf(label("h1")) > stack.indexOf(label("shield1"));
+    };
+    QVERIFY(!raised());
+    for (const char *sample : {"linePosition2Lowercase", "linePosition1English", "lhVertDisplay_2",
+             "linePosition1English", "liHordisplay_3"}) {
+        clickOn(sample);
+        QCOMPARE(raised(), qstrcmp(sample, "linePosition1English") != 0);
     }
 }
 
