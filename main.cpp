@@ -1,3 +1,4 @@
+#include "lexoria/hidpi.h"
 #include "lexoria/lexoria.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@ int main(int argc, char *argv[])
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
 
+    hidpi::enableScaling();
     QApplication app(argc, argv);
     lexoria::initResources();
     QSplashScreen splash(QPixmap(QStringLiteral(":/new/prefix1/vorticTypingBrelom.png")));

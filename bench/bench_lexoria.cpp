@@ -1,3 +1,4 @@
+#include "lexoria/hidpi.h"
 #include "lexoria/lexoria.h"
 
 #include <QApplication>
@@ -159,6 +160,10 @@ void measureRounds(int rounds, Setup setup, Body body, Teardown teardown)
 class bench_Lexoria : public QObject
 {
     Q_OBJECT
+
+public:
+    // Measured with the scaling the program starts with.
+    static void initMain() { hidpi::enableScaling(); }
 
 private slots:
     void construct();

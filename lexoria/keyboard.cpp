@@ -1,6 +1,7 @@
 #include "lexoria/lexoria.h"
 
 #include "lexoria/form.h"
+#include "lexoria/hidpi.h"
 #include "lexoria/keycatalogue.h"
 #include "lexoria/restyle.h"
 
@@ -42,7 +43,7 @@ void lexoria::fillLetterList()
         letterList.append(ui->find<QLabel>(QStringLiteral("r%1").arg(n))->text());
     for (const char *pose : {"chdown", "chmiddle", "chup"})
         instructorPixmaps.append(
-            QPixmap(QStringLiteral(":/new/prefix1/%1.png").arg(QLatin1String(pose))));
+            hidpi::pixmap(QStringLiteral(":/new/prefix1/%1.png").arg(QLatin1String(pose))));
     ui->piclabel1->setPixmap(instructorPixmaps.first());
 }
 

@@ -1,5 +1,6 @@
 #include "lexoria/lexoria.h"
 
+#include "lexoria/fonts.h"
 #include "lexoria/form.h"
 #include "lexoria/gamecatalogue.h"
 #include "lexoria/keycatalogue.h"
@@ -42,6 +43,8 @@ lexoria::lexoria(QWidget *parent)
     , ui(new Ui::lexoria)
 {
     initResources();
+    // Before the form, so that no widget is ever laid out in a font it will not keep.
+    fonts::mapFormFamilies();
     ui->setupUi(this);
     setFixedSize(size());
 

@@ -1,11 +1,17 @@
 // vortic-screens: photographs the main window for the pictures of the instructions.
 //
 //     vortic-screens [folder]
+//     vortic-screens --docs [folder]
 //
 // Each row of the table below plays the window into a state, cuts a region out of it and
 // writes it at the pixel size the instructions lay it out at. Pictures of parts the window
 // does not have yet are not written, so the generator's drawings of them stay.
+//
+// With --docs it writes the pictures of the README instead: the main window and the opening
+// window as they open, or, on a screen of twice the pixels (QT_SCALE_FACTOR=2), the main
+// window at that density.
 
+#include "lexoria/hidpi.h"
 #include "lexoria/keycatalogue.h"
 #include "lexoria/lexoria.h"
 
@@ -19,7 +25,9 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <initializer_list>
 #include <memory>
 
@@ -207,6 +215,33 @@ bool save(const QImage &image, const QString &path, QString *error)
     return false;
 }
 
+// A visitor of the README sees the program as a player does, at the density of the screen.
+int writeDocs(const QDir &folder)
+{
+    lexoria window;
+    window.openLexoria();
+    QCoreApplication::processEvents();
+    const bool doubled = window.devicePixelRatioF() >= 2.0;
+    QList<QPair<QWidget *, const char *>> pictures;
+    if (doubled) {
+        pictures.append({&window, "main-window-2x.png"});
+    } else {
+        pictures.append({&window, "main-window.png"});
+        pictures.append(
+            {window.findChild<QMainWindow *>(QStringLiteral("openingWindow")), "opening-window.png"});
+    }
+    for (const auto &[widget, file] : qAsConst(pictures)) {
+        QString error;
+        const QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        if (!save(image, folder.filePath(QLatin1String(file)), &error)) {
+            std::fprintf(stderr, "vortic-screens: %s: %s\n", file, qPrintable(error));
+            return 1;
+        }
+        std::printf("%s  %dx%d\n", file, image.width(), image.height());
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -214,7 +249,14 @@ int main(int argc, char *argv[])
     // Off screen, the window is drawn the same on every desktop: no scaling, no theme.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
+    // The instructions' pictures have fixed pixel sizes; the README's follow the screen, as
+    // the program does. Qt reads these attributes before the application object exists.
+    const bool docs = std::any_of(argv + 1, argv + argc,
+        [](const char *argument) { return std::strcmp(argument, "--docs") == 0; });
+    if (docs)
+        hidpi::enableScaling();
+    else
+        QApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     QApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vortic-screens"));
 
@@ -222,15 +264,21 @@ int main(int argc, char *argv[])
     parser.setApplicationDescription(
         QStringLiteral("Writes the screenshots of the instructions from the main window."));
     parser.addHelpOption();
+    parser.addOption({QStringLiteral("docs"),
+        QStringLiteral("Write the README's pictures (default folder: %1).")
+            .arg(QStringLiteral(VORTIC_DOCS_DIR))});
     parser.addPositionalArgument(QStringLiteral("folder"),
         QStringLiteral("Where the pictures go (default: %1).")
             .arg(QStringLiteral(VORTIC_SCREENS_DIR)));
     parser.process(app);
-    const QDir folder(parser.positionalArguments().value(0, QStringLiteral(VORTIC_SCREENS_DIR)));
+    const QDir folder(parser.positionalArguments().value(0,
+        docs ? QStringLiteral(VORTIC_DOCS_DIR) : QStringLiteral(VORTIC_SCREENS_DIR)));
     if (!folder.exists() && !QDir().mkpath(folder.path())) {
         std::fprintf(stderr, "vortic-screens: cannot make %s\n", qPrintable(folder.path()));
         return 1;
     }
+    if (docs)
+        return writeDocs(folder);
 
     std::unique_ptr<lexoria> window;
     Scene scene = nullptr;

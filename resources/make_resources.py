@@ -111,6 +111,9 @@ def downscale(im, size):
 class Canvas:
     """An RGBA drawing surface in final-pixel coordinates, rendered supersampled."""
 
+    # Pixels of the finished picture per final-pixel unit: 2 for the @2x twins of HiDPI screens.
+    scale = 1
+
     def __init__(self, w, h, bg=CLEAR, ss=SS):
         self.w, self.h, self.ss = w, h, ss
         self.im = Image.new("RGBA", (w * ss, h * ss), rgba(bg))
@@ -173,9 +176,10 @@ class Canvas:
         self.draw = ImageDraw.Draw(self.im)
 
     def image(self):
-        if self.ss == 1:
+        size = (self.w * Canvas.scale, self.h * Canvas.scale)
+        if self.im.size == size:
             return self.im.copy()
-        return downscale(self.im, (self.w, self.h))
+        return downscale(self.im, size)
 
 
 def arrow_points(cx, cy, length, shaft, head_w, head_l, angle):
@@ -1987,6 +1991,16 @@ FLAG = [(0, (255, 255, 255)), (0.34, (235, 240, 255)), (0.35, (60, 110, 230)),
 MAIN_BAR = (140, 262, 1068, 390)
 MAIN_KEYBOARD = (138, 386, 1062, 692)
 
+# Pictures that a HiDPI screen shows from a twin of twice the pixels, "<name>@2x.png", drawn
+# from the same strokes. The title art is drawn at twice its label's size already.
+DOUBLED = ["chdown.png", "chmiddle.png", "chup.png"]
+
+
+def doubled_name(name):
+    stem, ext = os.path.splitext(name)
+    return stem + "@2x" + ext
+
+
 PICTURES = [  # name, painter (S: the stand-in for a screenshot)
     ("alphaAndShadows.png", P(word_art, 240, 60, "Alpha & Shadows", stops=PURPLES,
                               outline=(255, 255, 255), shadow=0.8, fill_alpha=170)),
@@ -2151,7 +2165,7 @@ def main():
     names = [n for n, *_ in SOUNDS] + [n for n, *_ in GIFS] + [n for n, _ in PICTURES]
     if len(names) != len(set(names)) or len(names) != 143:
         sys.exit("the collection must hold 143 distinct names, not %d" % len(set(names)))
-    stale = set(os.listdir(OUT)) - set(names)
+    stale = set(os.listdir(OUT)) - set(names) - {doubled_name(n) for n in DOUBLED}
     for name in sorted(stale):
         os.remove(os.path.join(OUT, name))
 
@@ -2178,18 +2192,23 @@ def main():
         im = painter()
         save_png(path, im)
         sheet_items.append((name, im))
+        if name in DOUBLED:
+            Canvas.scale = 2
+            save_png(os.path.join(OUT, doubled_name(name)), painter())
+            Canvas.scale = 1
 
     with open(QRC, "w", encoding="utf-8", newline="\n") as f:
         f.write("<RCC>\n")
         f.write('    <qresource prefix="%s">\n' % PREFIX)
-        for name in names:
+        for name in names + [doubled_name(n) for n in DOUBLED]:
             f.write('        <file alias="%s">files/%s</file>\n' % (name, name))
         f.write("    </qresource>\n")
         f.write("</RCC>\n")
 
     sheet_items.sort(key=lambda item: item[0].lower())
     save_png(SHEET, contact_sheet(sheet_items))
-    total = sum(os.path.getsize(os.path.join(OUT, n)) for n in names)
+    total = sum(os.path.getsize(os.path.join(OUT, n))
+                for n in names + [doubled_name(n) for n in DOUBLED])
     print("%d files, %.1f KiB" % (len(names), total / 1024.0)
           + (", %d screenshots kept" % kept if kept else ""))
 

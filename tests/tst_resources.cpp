@@ -43,6 +43,13 @@ const char *const collection[] = {"bark.wav", "bubble2.wav", "chime1.wav", "expl
     "topRightPix.png", "transparent_text_effectCov.png", "up.PNG", "veryCenter.PNG", "vortic1.png",
     "vorticKeyboardFinal.png", "vorticTypingBrelom.png", "wallpaper.png", "youTube.png"};
 
+// "chup.png" for "chup@2x.png"; empty for a name that is no twin.
+QString twinOf(const QString &name)
+{
+    const int at = name.lastIndexOf(QLatin1String("@2x."));
+    return at < 0 ? QString() : name.left(at) + name.mid(at + 3);
+}
+
 QStringList namesEndingWith(const QString &suffix)
 {
     QStringList names;
@@ -112,6 +119,7 @@ class tst_Resources : public QObject
 private slots:
     void initTestCase();
     void collectionIsExactlyTheList();
+    void twinsAreTwiceTheirPicture();
     void collectionStaysSmall();
     void pictureLoads_data();
     void pictureLoads();
@@ -136,8 +144,9 @@ void tst_Resources::collectionIsExactlyTheList()
         expected.insert(QString::fromLatin1(name));
     QCOMPARE(expected.size(), 143);
 
-    const QStringList present = QDir(resourceDir).entryList(QDir::Files | QDir::Hidden);
-    const QSet<QString> actual(present.cbegin(), present.cend());
+    QSet<QString> actual;
+    for (const QString &name : QDir(resourceDir).entryList(QDir::Files | QDir::Hidden))
+        actual.insert(twinOf(name).isEmpty() ? name : twinOf(name));
 
     QStringList missing = (expected - actual).values();
     QStringList extra = (actual - expected).values();
@@ -147,11 +156,25 @@ void tst_Resources::collectionIsExactlyTheList()
     QVERIFY2(extra.isEmpty(), qPrintable("not in the list: " + extra.join(QLatin1String(", "))));
 }
 
+// The "@2x" twin of a picture is drawn at twice its pixels for HiDPI screens.
+void tst_Resources::twinsAreTwiceTheirPicture()
+{
+    int twins = 0;
+    for (const QString &name : QDir(resourceDir).entryList(QDir::Files)) {
+        const QString picture = twinOf(name);
+        if (picture.isEmpty())
+            continue;
+        ++twins;
+        QCOMPARE(QImage(resourceDir + name).size(), QImage(resourceDir + picture).size() * 2);
+    }
+    QVERIFY(twins > 0);
+}
+
 void tst_Resources::collectionStaysSmall()
 {
     qint64 total = 0;
-    for (const char *name : collection)
-        total += QFileInfo(resourceDir + QLatin1String(name)).size();
+    for (const QFileInfo &file : QDir(resourceDir).entryInfoList(QDir::Files))
+        total += file.size();
     QVERIFY2(total < 4 * 1024 * 1024, qPrintable(QStringLiteral("%1 bytes").arg(total)));
 }
 
