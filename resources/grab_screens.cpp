@@ -227,8 +227,8 @@ int writeDocs(const QDir &folder)
         pictures.append({&window, "main-window-2x.png"});
     } else {
         pictures.append({&window, "main-window.png"});
-        pictures.append(
-            {window.findChild<QMainWindow *>(QStringLiteral("openingWindow")), "opening-window.png"});
+        pictures.append({window.findChild<QMainWindow *>(QStringLiteral("openingWindow")),
+            "opening-window.png"});
     }
     for (const auto &[widget, file] : qAsConst(pictures)) {
         QString error;
@@ -271,8 +271,8 @@ int main(int argc, char *argv[])
         QStringLiteral("Where the pictures go (default: %1).")
             .arg(QStringLiteral(VORTIC_SCREENS_DIR)));
     parser.process(app);
-    const QDir folder(parser.positionalArguments().value(0,
-        docs ? QStringLiteral(VORTIC_DOCS_DIR) : QStringLiteral(VORTIC_SCREENS_DIR)));
+    const QDir folder(parser.positionalArguments().value(
+        0, docs ? QStringLiteral(VORTIC_DOCS_DIR) : QStringLiteral(VORTIC_SCREENS_DIR)));
     if (!folder.exists() && !QDir().mkpath(folder.path())) {
         std::fprintf(stderr, "vortic-screens: cannot make %s\n", qPrintable(folder.path()));
         return 1;
