@@ -31,6 +31,9 @@ constexpr Mapping textFamilies[] = {
     {"Calibri", {"Carlito", "DejaVu Sans"}},
     {"Arial Unicode MS", {"Liberation Sans", "DejaVu Sans"}},
     {"MS Shell Dlg 2", {"Carlito", "DejaVu Sans"}},
+    // The serif of the options menu's close button; Liberation Serif is narrow enough for
+    // "Advanced" in its 90 pixels.
+    {"Chaparral Pro Light", {"Liberation Serif", "DejaVu Serif"}},
 };
 
 constexpr const char *symbolFamilies[] = {"Wingdings", "Wingdings 2", "Wingdings 3", "Webdings"};
