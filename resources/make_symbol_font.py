@@ -97,16 +97,18 @@ GLYPHS = {
             arrow(-30, 580, SHUFFLE_HIGH, BAND, 300, HEAD),
         ],
     ),
-    # The arrows that point at the options button and at the menu (58pt in 70 x 56): ink only
-    # around the middle of the line, so that the tall size stays inside the short label.
-    "_": (860, [arrow(40, 830, 300, 170, 520, 330)]),
+    # The arrows that point at the options button and at the menu (58pt in 69 x 59 and in
+    # 70 x 56): ink only around the middle of the line, so that the tall size stays inside the
+    # short label.
+    "_": (800, [arrow(30, 770, 300, 160, 500, 310)]),
     # Swap the two colours of a gradient (30 x 27).
     "D": (900, [double_arrow(40, 860, 330, 150, 420, 260)]),
-    # The check mark of an open panel's entry (24pt in 32 x 22).
+    # The check mark of an open panel's entry (24pt in 32 x 22): half an em tall, so that it
+    # fits the short label.
     "C": (
-        840,
+        760,
         [
-            [(60, 330), (170, 440), (320, 290), (680, 650), (790, 540), (320, 70)],
+            [(50, 290), (150, 390), (290, 250), (600, 560), (700, 460), (290, 50)],
         ],
     ),
 }
