@@ -17,20 +17,8 @@ public:
     }
 
 private slots:
-    void windowKeepsItsSizeWithTwiceThePixels();
     void instructorIsSharp();
 };
-
-void tst_HiDpi::windowKeepsItsSizeWithTwiceThePixels()
-{
-    lexoria window;
-    window.openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(window.size(), QSize(1211, 695));
-    const QPixmap picture = window.grab();
-    QCOMPARE(picture.devicePixelRatio(), 2.0);
-    QCOMPARE(picture.size(), QSize(2422, 1390));
-}
 
 // The instructor is drawn from a picture of twice its label's pixels.
 void tst_HiDpi::instructorIsSharp()
