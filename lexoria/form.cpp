@@ -4,6 +4,7 @@
 #include "lexoria/keycatalogue.h"
 
 #include <QCheckBox>
+#include <QFontComboBox>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLCDNumber>
@@ -12,6 +13,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTableWidget>
 
 using namespace formtable;
@@ -62,6 +64,10 @@ QWidget *makeWidget(Kind kind, QWidget *parent)
         return new QLCDNumber(parent);
     case Table:
         return new QTableWidget(parent);
+    case TabWidget:
+        return new QTabWidget(parent);
+    case FontComboBox:
+        return new QFontComboBox(parent);
     case Widget:
         break;
     }
@@ -100,6 +106,11 @@ void applyRow(QWidget *widget, const WidgetRow &row)
     } else if (auto *lcd = qobject_cast<QLCDNumber *>(widget)) {
         lcd->setDigitCount(3);
         lcd->setSegmentStyle(QLCDNumber::Filled);
+    } else if (auto *tabs = qobject_cast<QTabWidget *>(widget)) {
+        tabs->setFocusPolicy(Qt::NoFocus);
+    } else if (auto *fonts = qobject_cast<QFontComboBox *>(widget)) {
+        fonts->setEditable(false);
+        fonts->setMaxVisibleItems(15);
     } else if (auto *table = qobject_cast<QTableWidget *>(widget)) {
         table->setColumnCount(2);
         table->setRowCount(100);
@@ -254,6 +265,7 @@ void lexoria::buildTable(QWidget *central)
     const Table tables[] = {
         {mainFormRows, mainFormRowCount},
         {aidFormRows, aidFormRowCount},
+        {optionsFormRows, optionsFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {
@@ -262,6 +274,8 @@ void lexoria::buildTable(QWidget *central)
             QWidget *parent = row.parent ? byName.value(QString::fromLatin1(row.parent)) : central;
             QWidget *widget = makeWidget(row.kind, parent ? parent : central);
             applyRow(widget, row);
+            if (auto *tabs = qobject_cast<QTabWidget *>(parent))
+                tabs->addTab(widget, QString::fromUtf8(row.text));
             if (!parent) {
                 widget->hide();
                 waiting.append({widget, &row});

@@ -208,7 +208,8 @@ const WidgetRow mainFormRows[] = {
     // Frame buttons
     {PushButton, "pbQuit", nullptr, 2, 662, 46, 30, "X", "", "", 0},
     {PushButton, "helpButton", nullptr, 1120, 660, 88, 32, "Help", "", "", 0},
-    {PushButton, "hideNonVitals", nullptr, 1004, 674, 44, 18, "Hide", "", "", 0},
+    {PushButton, "hideNonVitals", nullptr, 1004, 674, 44, 18, "Hide", "",
+        "Hides parts of display not vital to game play", Checkable},
 
     // State the player never sees: the selected game and the captions of the games
     {GroupBox, "groupBox", nullptr, 1300, 360, 120, 90, "", "", "", 0},
@@ -223,10 +224,6 @@ const WidgetRow mainFormRows[] = {
     {GroupBox, "gbPushButtons", nullptr, 1580, 360, 100, 60, "", "", "", 0},
     {GroupBox, "wordList", nullptr, 1300, 20, 220, 320, "", "", "", 0},
     {Table, "table", "wordList", 5, 20, 210, 290, "", "", "", 0},
-    {Widget, "tab_5", nullptr, 1300, 480, 600, 200, "", "", "", Hidden},
-    {Label, "dem1", "tab_5", 462, 82, 35, 35, "", "", "", Center},
-    {Label, "dem6", "tab_5", 500, 82, 35, 35, "", "", "", Center},
-    {Label, "dem2", "tab_5", 538, 82, 35, 35, "", "", "", Center},
 
     // Shields lie over the game buttons and Start while the alphabet bar plays its wave
     {Label, "shieldEverything", nullptr, 16, 242, 120, 38, "", "", "", 0},

@@ -15,7 +15,9 @@ enum Kind {
     LineEdit,
     Lcd,
     Table,
-    Widget
+    Widget,
+    TabWidget, // rows whose parent is a tab widget become its pages, titled by their text
+    FontComboBox,
 };
 
 enum Flag {
@@ -49,6 +51,10 @@ extern const WidgetRow mainFormRows[];
 extern const std::size_t mainFormRowCount;
 extern const WidgetRow aidFormRows[];
 extern const std::size_t aidFormRowCount;
+
+// The advanced options menu, its panels and the tabs of the colour panel.
+extern const WidgetRow optionsFormRows[];
+extern const std::size_t optionsFormRowCount;
 
 } // namespace formtable
 

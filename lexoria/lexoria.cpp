@@ -98,6 +98,7 @@ lexoria::lexoria(QWidget *parent)
     for (QLabel *shield :
         {ui->shieldConsonants, ui->shieldVarious, ui->shieldNumberLine, ui->shieldStart})
         shield->raise();
+    connectOptions();
 
     // Faces under pictures under letters: lowering in list order leaves the faces lowest.
     fillImgArray();
@@ -105,6 +106,10 @@ lexoria::lexoria(QWidget *parent)
         image->lower();
     for (QLabel *face : qAsConst(keyBgLabels))
         face->lower();
+
+    hideFrame();
+    ui->widget(QStringLiteral("framePhotos"))->hide();
+    makeFusion();
 
     connect(ui->aKeysMap, &QPushButton::clicked, this, &lexoria::aKeysMap_function);
 
@@ -115,6 +120,7 @@ lexoria::lexoria(QWidget *parent)
     connect(ui->on, &QRadioButton::clicked, this, &lexoria::startCounter);
     connect(ui->off, &QRadioButton::clicked, this, &lexoria::stopCounter);
 
+    colorMadnessTabsShadow();
     loadDisplayNoneArray();
     displayBoth();
     // The control keys and the sample key carry no letter, so no restore ever paints them;

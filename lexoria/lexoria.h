@@ -1,6 +1,7 @@
 #ifndef LEXORIA_H
 #define LEXORIA_H
 
+#include "lexoria/optionscatalogue.h"
 #include "lexoria/stylepieces.h"
 
 #include <QHash>
@@ -8,12 +9,14 @@
 #include <QMainWindow>
 #include <QMovie>
 #include <QPixmap>
+#include <QPointer>
 #include <QStringList>
 
 #include <array>
 #include <cstddef>
 
 class QLabel;
+class QPropertyAnimation;
 class aboutWindow;
 class exploreWorld;
 class instructions;
@@ -125,6 +128,30 @@ public slots:
     void randomMG();
     void randomFlags();
 
+    // The advanced options menu and its panels (panel: optionscatalogue::Panel, tab 1..10)
+    void showFrame();
+    void hideFrame();
+    void tocFlagTrue();
+    void masterAnimateIn();
+    void masterAnimateOut();
+    void masterOptionsTextIn();
+    void masterOptionsTextOut();
+    void showPanel(int panel);
+    void hidePanel(int panel);
+    void selectColorMadnessTab(int tab);
+    void hoverColorMadnessTab(int tab, bool entered);
+    void colorMadnessTabsShadow();
+    void hideNonVitals_function();
+    void xNonVitalsOn_function();
+    void xNonVitalsOff_function();
+    void xNonVitalsOn2_function();
+    void xNonVitalsOff2_function();
+    void xNonVitalsOnPhotos_function();
+    void xNonVitalsOffPhotos_function();
+    void bridgeTop_function();
+    void bridgeBottom_function();
+    void makeFusion();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -156,6 +183,13 @@ private:
     void chebTick();
     bool drawRandomLetter(int modulus);
     void finishRandomGame();
+
+    void connectOptions();
+    void slide(int id);
+    void openPanel(int panel);
+    void paintTabs();
+    void setNonVitalsVisible(bool visible, bool withMenu = false, bool withColorMadness = false);
+    void closeColourDialogs();
 
     void showDisplayMark(const char *mark);
     void showLettersOnKeys(bool russian, bool english);
@@ -257,6 +291,15 @@ private:
     int chebTicks = 0;
     QList<QLabel *> horizontalLines;
     QList<QLabel *> verticalLines;
+
+    // The options menu
+    bool tocOpen = false;
+    optionscatalogue::PanelFlags openPanels;
+    std::array<QString, optionscatalogue::tabCount> tabSelected;
+    bool nonVitalsHidden = false;
+    QList<QPointer<QWidget>> nonVitalsCleared;
+    int menuRun = 0; // a shot of an older opening or closing of the menu finds it changed
+    std::array<QPointer<QPropertyAnimation>, optionscatalogue::SlideCount> slideRunning;
 
     int keyFlashMs = 300;
     int barStepMs = 50;
