@@ -104,6 +104,10 @@ void lexoria::connectOptions()
     connect(ui->find<QCheckBox>(QStringLiteral("bridgeBottom")), &QCheckBox::clicked, this,
         &lexoria::bridgeBottom_function);
 
+    // The band is solid white: declared opaque, it spares Qt repainting the hundred widgets
+    // under it on every step of its slide. Only its bottom corners are rounded, over white.
+    ui->widget(QStringLiteral("optionsShield"))->setAttribute(Qt::WA_OpaquePaintEvent);
+
     // The tab bar itself lies under frameTabShield, whose labels do its work.
     ui->find<QTabWidget>(QStringLiteral("tabWidget"))->setTabPosition(QTabWidget::East);
     QList<QWidget *> tabLabels;
