@@ -139,6 +139,7 @@ public slots:
     void showPanel(int panel);
     void hidePanel(int panel);
     void selectColorMadnessTab(int tab);
+    void colorMadnessTabClicked();
     void hoverColorMadnessTab(int tab, bool entered);
     void colorMadnessTabsShadow();
     void hideNonVitals_function();

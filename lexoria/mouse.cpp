@@ -138,6 +138,9 @@ const lexoria::HoverRow *lexoria::hoverRows(std::size_t *count)
             [](lexoria &w, QWidget *, int k) { w.keyLeave(k); }},
         {"r%1", 1, letterCount, [](lexoria &w, QWidget *, int n) { w.barHover(n); },
             [](lexoria &w, QWidget *, int n) { w.changeColorBack(n); }},
+        {"labelTab%1", 1, optionscatalogue::tabCount,
+            [](lexoria &w, QWidget *, int tab) { w.hoverColorMadnessTab(tab, true); },
+            [](lexoria &w, QWidget *, int tab) { w.hoverColorMadnessTab(tab, false); }},
     };
     *count = std::size(rows);
     return rows;
@@ -153,6 +156,7 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         // click elsewhere takes it back.
         {{}, [](lexoria &w) { w.fontComboFocus("fontComboBoxUppercase"); }},
         {{}, [](lexoria &w) { w.fontComboFocus("fontComboBoxEnglish"); }},
+        {{}, [](lexoria &w) { w.colorMadnessTabClicked(); }},
         {{"both", "rcBoth"}, [](lexoria &w) { w.displayBoth(); }},
         {{"english", "rcEnglish"}, [](lexoria &w) { w.displayEnglish(); }},
         {{"russian2", "rcRussian"}, [](lexoria &w) { w.displayLexoria(); }},

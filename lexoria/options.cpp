@@ -9,7 +9,6 @@
 #include <QFrame>
 #include <QGraphicsDropShadowEffect>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPropertyAnimation>
 #include <QPushButton>
 #include <QRadioButton>
@@ -21,47 +20,6 @@
 using namespace optionscatalogue;
 
 namespace optionsmenu {
-
-// The tab labels of the colour panel answer the mouse like the tabs they stand in for.
-class TabLabelWatch : public QObject
-{
-public:
-    TabLabelWatch(lexoria *window, QList<QWidget *> labels)
-        : QObject(window)
-        , window(window)
-        , labels(std::move(labels))
-    {
-        for (QWidget *label : qAsConst(this->labels))
-            label->installEventFilter(this);
-    }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        const int tab = labels.indexOf(qobject_cast<QWidget *>(watched)) + 1;
-        if (tab == 0)
-            return false;
-        switch (event->type()) {
-        case QEvent::Enter:
-            window->hoverColorMadnessTab(tab, true);
-            break;
-        case QEvent::Leave:
-            window->hoverColorMadnessTab(tab, false);
-            break;
-        case QEvent::MouseButtonPress:
-            if (static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
-                window->selectColorMadnessTab(tab);
-            break;
-        default:
-            break;
-        }
-        return false;
-    }
-
-private:
-    lexoria *window;
-    QList<QWidget *> labels;
-};
 
 // Nobody sees the menu move while the main window is hidden (at construction, above all),
 // so there its delays and slides collapse into their end state at once.
@@ -110,14 +68,9 @@ void lexoria::connectOptions()
 
     // The tab bar itself lies under frameTabShield, whose labels do its work.
     ui->find<QTabWidget>(QStringLiteral("tabWidget"))->setTabPosition(QTabWidget::East);
-    QList<QWidget *> tabLabels;
-    for (int tab = 1; tab <= tabCount; ++tab) {
-        tabLabels.append(ui->widget(QStringLiteral("labelTab%1").arg(tab)));
-        tabSelected[tab - 1] = QStringLiteral("0");
-    }
+    tabSelected.fill(QStringLiteral("0"));
     tabSelected[0] = QStringLiteral("1");
     paintTabs();
-    new optionsmenu::TabLabelWatch(this, tabLabels);
 }
 
 void lexoria::slide(int id)
@@ -375,6 +328,17 @@ void lexoria::selectColorMadnessTab(int tab)
         selected = QStringLiteral("0");
     tabSelected[tab - 1] = QStringLiteral("1");
     paintTabs();
+}
+
+// Every left press of the window comes here; a tab label under the mouse selects its page.
+void lexoria::colorMadnessTabClicked()
+{
+    for (int tab = 1; tab <= tabCount; ++tab) {
+        if (ui->widget(QStringLiteral("labelTab%1").arg(tab))->underMouse()) {
+            selectColorMadnessTab(tab);
+            return;
+        }
+    }
 }
 
 void lexoria::hoverColorMadnessTab(int tab, bool entered)

@@ -1,3 +1,7 @@
+// Clicks go through the platform layer, so that underMouse() holds for the tab label under
+// the pointer, which is how the main window finds the tab that was clicked.
+#define QTEST_QPA_MOUSE_HANDLING
+
 #include "gamedriver.h"
 
 #include <QCheckBox>
@@ -58,8 +62,9 @@ private:
     }
     void clickLabel(const QString &name)
     {
-        QTest::mouseMove(widget(name));
-        QTest::mouseClick(widget(name), Qt::LeftButton);
+        QWidget *label = widget(name);
+        QTest::mouseMove(label, label->rect().center());
+        QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
     }
     void openPanel(const QString &button)
     {
@@ -76,6 +81,9 @@ void tst_Options::init()
     window = std::make_unique<lexoria>();
     window->openLexoria();
     QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    // The first move only tells Qt where the pointer is; enter and leave follow from the next.
+    QTest::mouseMove(window.get(), QPoint(600, 30));
+    QTest::mouseMove(window.get(), QPoint(601, 30));
     game = std::make_unique<GameDriver>(window.get());
 }
 
@@ -236,8 +244,10 @@ void tst_Options::tabsAnswerClicksAndHover()
     QCOMPARE(game->style("labelTab3"), tabRed);
     hover("labelTab4", QEvent::Enter);
     QCOMPARE(game->style("labelTab4"), tabBlueHover);
+    hover("labelTab4", QEvent::Leave);
     hover("labelTab1", QEvent::Enter);
     QCOMPARE(game->style("labelTab1"), tabActive);
+    hover("labelTab1", QEvent::Leave);
 
     auto *tabs = window->findChild<QTabWidget *>("tabWidget");
     clickLabel("labelTab6");
