@@ -14,6 +14,7 @@ resource generator, the output depends only on this script, Pillow and the DejaV
 import os
 import sys
 
+from fontTools.pens.recordingPen import RecordingPen
 from fontTools.ttLib import TTFont
 from PIL import Image, ImageDraw
 
@@ -47,8 +48,6 @@ def glyph_outline(char, width, centre):
     The Cyrillic capitals we use there are drawn with straight lines only, which keeps the
     SVG path and the pixel polygons identical; a curved glyph would need flattening first.
     """
-    from fontTools.pens.recordingPen import RecordingPen
-
     font = TTFont(os.path.join(FONT_DIR, FONT_FILES["bold"]))
     glyphs = font.getGlyphSet()
     pen = RecordingPen()
