@@ -1,8 +1,9 @@
 # Installs the build into a fresh prefix and checks what a desktop finds there: exactly the
-# program, its menu entry, its metainfo and every icon size, each pointing at the others.
+# program, its manual page, menu entry, metainfo and every icon size, each pointing at the
+# others.
 #
 #   cmake -DBUILD_DIR=... -DPREFIX=... -DAPP_ID=... -DVERSION=... -DBINDIR=... -DDATADIR=...
-#         -P check_install.cmake
+#         -DMANDIR=... -P check_install.cmake
 
 cmake_minimum_required(VERSION 3.16)
 
@@ -18,6 +19,7 @@ set(expected
     ${BINDIR}/vortic-typing-russian
     ${DATADIR}/applications/${APP_ID}.desktop
     ${DATADIR}/metainfo/${APP_ID}.metainfo.xml
+    ${MANDIR}/man1/vortic-typing-russian.1
     ${DATADIR}/icons/hicolor/scalable/apps/${APP_ID}.svg)
 foreach(size ${sizes})
     list(APPEND expected ${DATADIR}/icons/hicolor/${size}x${size}/apps/${APP_ID}.png)
