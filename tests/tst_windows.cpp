@@ -7,6 +7,7 @@
 #include "windows/instructions.h"
 #include "windows/openingwindow.h"
 #include "windows/selfexplore.h"
+#include "windows/ui_aboutwindow.h"
 #include "windows/ui_instructions.h"
 
 #include <QLabel>
@@ -27,6 +28,7 @@ private slots:
     void frame();
     void buttons_data();
     void buttons();
+    void aboutShowsVersion();
 
     void mapClick_data();
     void mapClick();
@@ -140,6 +142,25 @@ void tst_Windows::buttons()
     QCOMPARE(button->text(), text);
     const bool inside = window->rect().contains(button->mapTo(window.get(), QPoint()));
     QCOMPARE(button->isEnabled() && inside, reachable);
+}
+
+// The version is added beside the About box's own lines: it must be readable whole and
+// leave the contact line and its link alone.
+void tst_Windows::aboutShowsVersion()
+{
+    aboutWindow about;
+    about.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&about));
+    const QLabel *version = about.ui->versionLabel;
+    QCOMPARE(version->text(), QStringLiteral("Version " VORTIC_VERSION));
+    QVERIFY(version->isVisible());
+    QVERIFY(about.rect().contains(version->geometry()));
+    QVERIFY(version->sizeHint().width() <= version->width());
+    const QList<QWidget *> neighbours
+        = {about.ui->label_3, about.ui->label_4, about.ui->awExitButton};
+    for (const QWidget *other : neighbours)
+        QVERIFY2(
+            !version->geometry().intersects(other->geometry()), qPrintable(other->objectName()));
 }
 
 void tst_Windows::mapClick_data()

@@ -6,6 +6,7 @@
 namespace {
 
 using Form = Ui::aboutWindow;
+using windowform::AlignRight;
 using windowform::AlignTop;
 using windowform::NoFlags;
 using windowform::OpensLinks;
@@ -27,6 +28,10 @@ constexpr windowform::Row<Form> rows[] = {
         "<a href=\"https://example.org/vortic-typing\">our web site</a>", smallText, OpensLinks},
     {WINDOWFORM_FIELD(awExitButton), nullptr, {212, 278, 120, 31}, "Close Window",
         "font:10pt \"MS Shell Dlg 2\";", NoFlags},
+    // The free end of the contact line, where a reader looks for the version of an About box.
+    // Black of its own like the mission text: the main window's sheet whitens every label.
+    {WINDOWFORM_FIELD(versionLabel), nullptr, {330, 240, 205, 21}, "Version " VORTIC_VERSION,
+        "font: 9pt \"MS Shell Dlg 2\"; color: rgb(0, 0, 0);", AlignRight},
 };
 
 } // namespace

@@ -15,6 +15,7 @@ struct aboutWindow
     QLabel *label_3 = nullptr;
     QLabel *label_4 = nullptr;
     QPushButton *awExitButton = nullptr;
+    QLabel *versionLabel = nullptr;
 
     void setupUi(QMainWindow *window);
 };

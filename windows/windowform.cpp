@@ -51,6 +51,8 @@ static void dressLabel(QLabel *label, const QString &text, unsigned flags)
         label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     if (flags & Centered)
         label->setAlignment(Qt::AlignCenter);
+    if (flags & AlignRight)
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 static void dressTextEdit(QTextEdit *edit, const QString &text, unsigned flags)

@@ -23,6 +23,7 @@ enum Flag : unsigned {
     AlignTop = 1u << 5,
     Centered = 1u << 6,
     MovableTabs = 1u << 7, // document-mode tabs that the reader may drag into another order
+    AlignRight = 1u << 8,
 };
 
 template <typename Member> struct MemberOf;
