@@ -254,6 +254,7 @@ void lexoria::buildTable(QWidget *central)
     const Table tables[] = {
         {mainFormRows, mainFormRowCount},
         {aidFormRows, aidFormRowCount},
+        {audioFormRows, audioFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

@@ -50,6 +50,10 @@ extern const std::size_t mainFormRowCount;
 extern const WidgetRow aidFormRows[];
 extern const std::size_t aidFormRowCount;
 
+// The panel of key-press sounds and the controls of the pulse sound.
+extern const WidgetRow audioFormRows[];
+extern const std::size_t audioFormRowCount;
+
 } // namespace formtable
 
 #endif

@@ -12,8 +12,10 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 
 class QLabel;
+class QRadioButton;
 class aboutWindow;
 class exploreWorld;
 class instructions;
@@ -22,6 +24,10 @@ class selfExplore;
 
 namespace Ui {
 class lexoria;
+}
+
+namespace sound {
+class SoundBank;
 }
 
 class lexoria : public QMainWindow
@@ -125,6 +131,26 @@ public slots:
     void randomMG();
     void randomFlags();
 
+    // Sound: every sound of the program goes through playSound
+    void playSound(const QString &path);
+    void playPulseSound();
+    void audio();
+    void audioUploadedAudio();
+    void audioUploadedAudioPulse();
+    void openAudio_Function();
+    void openAudioPulse_Function();
+    void applyAudioToPulse_function();
+    void showAudio();
+    void hideAudio();
+
+signals:
+    // The path of every sound asked for, silence and the empty "None" included.
+    void soundPlayed(const QString &file);
+
+public:
+    // The sound a pulse plays once the gif of the given radio is chosen.
+    QString pulseSoundForGif(const QString &gifRadio) const;
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -179,6 +205,11 @@ private:
     const QString &fontPiece(int n) const;
     const QString &colourPiece(int n) const;
     bool rowPainted(int n) const;
+
+    void setUpSound();
+    void keyPressSound(int n);
+    bool previewSound(QObject *watched, QEvent *event);
+    QStringList chooseWaveFiles();
 
     QStringList letterList;
     QList<QLabel *> barLabels;
@@ -257,6 +288,17 @@ private:
     int chebTicks = 0;
     QList<QLabel *> horizontalLines;
     QList<QLabel *> verticalLines;
+
+    // The gif side of the key-located effects; the key-press sound falls silent with it.
+    bool gifEffectOn = false;
+
+    QString keypressSound;
+    QString pulseSound;
+    QString silenceSound;
+    QStringList uploadedKeypressFiles;
+    QStringList uploadedPulseFiles;
+    bool audioOpen = false;
+    std::unique_ptr<sound::SoundBank> soundBank;
 
     int keyFlashMs = 300;
     int barStepMs = 50;
