@@ -230,22 +230,33 @@ void tst_Sound::previewsPlayOnEnterOnly()
 
 void tst_Sound::uploadDialogs_data()
 {
+    QTest::addColumn<QString>("opener");
     QTest::addColumn<bool>("pulse");
     QTest::addColumn<bool>("accept");
-    QTest::newRow("key press, accepted") << false << true;
-    QTest::newRow("key press, cancelled") << false << false;
-    QTest::newRow("pulse, accepted") << true << true;
-    QTest::newRow("pulse, cancelled") << true << false;
+    QTest::newRow("key press, accepted") << "openAudio" << false << true;
+    QTest::newRow("key press, cancelled") << "openAudio" << false << false;
+    QTest::newRow("key press, folder icon") << "openFolderAudio" << false << true;
+    QTest::newRow("pulse, accepted") << "openAudioPulse" << true << true;
+    QTest::newRow("pulse, cancelled") << "openAudioPulse" << true << false;
 }
 
 void tst_Sound::uploadDialogs()
 {
+    QFETCH(QString, opener);
     QFETCH(bool, pulse);
     QFETCH(bool, accept);
     const QString upload = copyOf("quack.wav");
     const QString expected = accept ? upload : silence;
     answerFileDialog(accept ? upload : QString());
-    game->click(pulse ? "openAudioPulse" : "openAudio");
+    if (QLabel *icon = find<QLabel>(opener)) {
+        window->show();
+        game->click("menuAudio");
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        QTest::mouseMove(icon);
+        QTest::mouseClick(icon, Qt::LeftButton);
+    } else {
+        game->click(opener);
+    }
     QAbstractButton *choice = pulse
         ? static_cast<QAbstractButton *>(find<QCheckBox>("applyAudioToPulse"))
         : find<QRadioButton>("useUploadedAudio");
