@@ -1,6 +1,8 @@
 #ifndef LEXORIA_KEYSOUND_H
 #define LEXORIA_KEYSOUND_H
 
+#include <QMetaType>
+
 namespace sound {
 
 // What the game knows about a key press when its sound is chosen.
@@ -24,5 +26,7 @@ inline bool isSilentKeyPress(const KeyPress &press)
 }
 
 } // namespace sound
+
+Q_DECLARE_METATYPE(sound::KeyPress)
 
 #endif
