@@ -87,7 +87,15 @@ class QTableWidget;
     X(QPushButton, hint)                                                                           \
     X(QPushButton, swapGradient6)                                                                  \
     X(QFrame, frameLinehighlight)                                                                  \
-    X(QCheckBox, checkBox)
+    X(QCheckBox, checkBox)                                                                         \
+    X(QFrame, frameAudio)                                                                          \
+    X(QPushButton, menuAudio)                                                                      \
+    X(QLabel, markerAudio)                                                                         \
+    X(QPushButton, openAudio)                                                                      \
+    X(QPushButton, openAudioPulse)                                                                 \
+    X(QRadioButton, useUploadedAudio)                                                              \
+    X(QRadioButton, audioNone)                                                                     \
+    X(QCheckBox, applyAudioToPulse)
 
 namespace Ui {
 

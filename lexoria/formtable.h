@@ -55,6 +55,9 @@ extern const std::size_t aidFormRowCount;
 // The advanced options menu, its panels and the tabs of the colour panel.
 extern const WidgetRow optionsFormRows[];
 extern const std::size_t optionsFormRowCount;
+// The panel of key-press sounds and the controls of the pulse sound.
+extern const WidgetRow audioFormRows[];
+extern const std::size_t audioFormRowCount;
 
 } // namespace formtable
 

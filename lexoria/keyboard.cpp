@@ -150,6 +150,7 @@ void lexoria::key(int n)
         keyGoldHigh(n);
     if (ui->keyFlash->isChecked())
         QTimer::singleShot(keyFlashMs, this, [this, n] { changeColorBack(n); });
+    keyPressSound(n);
 }
 
 void lexoria::changeColorBack(int n)

@@ -5,6 +5,7 @@
 #include "lexoria/gamecatalogue.h"
 #include "lexoria/keycatalogue.h"
 #include "lexoria/restyle.h"
+#include "lexoria/soundbank.h"
 #include "windows/aboutwindow.h"
 #include "windows/exploreworld.h"
 #include "windows/instructions.h"
@@ -131,6 +132,7 @@ lexoria::lexoria(QWidget *parent)
     restyle(ui->aKeysMap5, restFace);
 
     setUpAids();
+    setUpSound();
 
     restyle(
         ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));

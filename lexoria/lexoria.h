@@ -14,9 +14,11 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 
 class QLabel;
 class QPropertyAnimation;
+class QRadioButton;
 class aboutWindow;
 class exploreWorld;
 class instructions;
@@ -25,6 +27,10 @@ class selfExplore;
 
 namespace Ui {
 class lexoria;
+}
+
+namespace sound {
+class SoundBank;
 }
 
 class lexoria : public QMainWindow
@@ -152,6 +158,23 @@ public slots:
     void bridgeTop_function();
     void bridgeBottom_function();
     void makeFusion();
+    // Sound: every sound of the program goes through playSound
+    void playSound(const QString &path);
+    void playPulseSound();
+    void audio();
+    void audioUploadedAudio();
+    void audioUploadedAudioPulse();
+    void openAudio_Function();
+    void openAudioPulse_Function();
+    void applyAudioToPulse_function();
+
+signals:
+    // The path of every sound asked for, silence and the empty "None" included.
+    void soundPlayed(const QString &file);
+
+public:
+    // The sound a pulse plays once the gif of the given radio is chosen.
+    QString pulseSoundForGif(const QString &gifRadio) const;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -214,6 +237,11 @@ private:
     const QString &fontPiece(int n) const;
     const QString &colourPiece(int n) const;
     bool rowPainted(int n) const;
+
+    void setUpSound();
+    void keyPressSound(int n);
+    bool previewSound(QObject *watched, QEvent *event);
+    QStringList chooseWaveFiles();
 
     QStringList letterList;
     QList<QLabel *> barLabels;
@@ -301,6 +329,15 @@ private:
     QList<QPointer<QWidget>> nonVitalsCleared;
     int menuRun = 0; // a shot of an older opening or closing of the menu finds it changed
     std::array<QPointer<QPropertyAnimation>, optionscatalogue::SlideCount> slideRunning;
+    // The gif side of the key-located effects; the key-press sound falls silent with it.
+    bool gifEffectOn = false;
+
+    QString keypressSound;
+    QString pulseSound;
+    QString silenceSound;
+    QStringList uploadedKeypressFiles;
+    QStringList uploadedPulseFiles;
+    std::unique_ptr<sound::SoundBank> soundBank;
 
     int keyFlashMs = 300;
     int barStepMs = 50;

@@ -152,6 +152,7 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{"linePosition1English"}, [](lexoria &w) { w.lineHighlightLower(); }},
         {{"linePosition2Lowercase", "lhVertDisplay_2", "liHordisplay_3"},
             [](lexoria &w) { w.lineHighlightRaise(); }},
+        {{"openFolderAudio"}, [](lexoria &w) { w.openAudio_Function(); }},
         // A font combo box holding the focus would take every key from the game, so any left
         // click elsewhere takes it back.
         {{}, [](lexoria &w) { w.fontComboFocus("fontComboBoxUppercase"); }},
@@ -183,6 +184,8 @@ void lexoria::installHoverFilter()
 
 bool lexoria::eventFilter(QObject *watched, QEvent *event)
 {
+    if (previewSound(watched, event))
+        return false;
     const QEvent::Type type = event->type();
     if (type != QEvent::Enter && type != QEvent::Leave)
         return false;

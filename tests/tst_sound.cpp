@@ -1,0 +1,326 @@
+#include "gamedriver.h"
+#include "lexoria/keysound.h"
+#include "lexoria/soundbank.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QFrame>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace {
+
+const QString silence = ":/new/prefix1/silence.wav";
+
+QString resource(const char *file)
+{
+    return QStringLiteral(":/new/prefix1/") + QLatin1String(file);
+}
+
+// Answers the file dialog about to open: picks the file, or cancels when it is empty.
+void answerFileDialog(const QString &file)
+{
+    auto answer = std::make_shared<std::function<void()>>();
+    *answer = [file, answer] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return QTimer::singleShot(10, *answer);
+        QCOMPARE(dialog->nameFilters(), QStringList {"Audio(*wav)"});
+        if (file.isEmpty()) {
+            dialog->reject();
+        } else {
+            dialog->selectFile(file);
+            QMetaObject::invokeMethod(dialog, "accept"); // protected in QFileDialog
+        }
+        *answer = nullptr;
+    };
+    QTimer::singleShot(0, *answer);
+}
+
+void hover(QWidget *widget, QEvent::Type type)
+{
+    QEvent event(type);
+    QApplication::sendEvent(widget, &event);
+}
+
+} // namespace
+
+class tst_Sound : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void keyPressPlaysChosenSound_data();
+    void keyPressPlaysChosenSound();
+    void silentKeyPressRule_data();
+    void silentKeyPressRule();
+    void finishedLetterWithoutEffectKeepsItsSound();
+    void previewsPlayOnEnterOnly_data();
+    void previewsPlayOnEnterOnly();
+    void uploadDialogs_data();
+    void uploadDialogs();
+    void pulseSoundFollowsGifChoice_data();
+    void pulseSoundFollowsGifChoice();
+    void unplayableUploadsPlayNothing();
+    void panelOpensAndParks();
+
+private:
+    template <class T> T *find(const QString &name) const { return window->findChild<T *>(name); }
+    QString lastSound() const { return spy->isEmpty() ? "<none>" : spy->last().at(0).toString(); }
+    QString copyOf(const char *file);
+
+    std::unique_ptr<lexoria> window;
+    std::unique_ptr<GameDriver> game;
+    std::unique_ptr<QSignalSpy> spy;
+    QTemporaryDir scratch;
+};
+
+void tst_Sound::init()
+{
+    window = std::make_unique<lexoria>();
+    game = std::make_unique<GameDriver>(window.get());
+    spy = std::make_unique<QSignalSpy>(window.get(), &lexoria::soundPlayed);
+}
+
+void tst_Sound::cleanup()
+{
+    spy.reset();
+    game.reset();
+    window.reset();
+}
+
+QString tst_Sound::copyOf(const char *file)
+{
+    const QString copy = scratch.filePath(QLatin1String(file));
+    QFile::remove(copy);
+    QFile::copy(resource(file), copy);
+    return copy;
+}
+
+void tst_Sound::keyPressPlaysChosenSound_data()
+{
+    QTest::addColumn<QString>("radio");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("at start") << QString() << silence;
+    QTest::newRow("Dog Bark") << "audioBark" << resource("bark.wav");
+    QTest::newRow("Happy Cat") << "audioMeow" << resource("meow.wav");
+    QTest::newRow("Quack") << "audioQuack" << resource("quack1.wav");
+    QTest::newRow("Photon") << "audioPhoton" << resource("photon.wav");
+    QTest::newRow("Photon II") << "audioPhoton2" << resource("photon2.wav");
+    QTest::newRow("Whistle") << "audioWhistle" << resource("whistle.wav");
+    QTest::newRow("Bubble") << "audioBubble" << resource("bubble2.wav");
+    QTest::newRow("Chime") << "audioChime1" << resource("chime1.wav");
+    QTest::newRow("Explosion") << "audioExplosion" << resource("explosion1.wav");
+    QTest::newRow("Minigun") << "audioMinigun" << resource("machineGun2.wav");
+    QTest::newRow("Typewriter") << "audioTypewriter" << resource("typewriter.wav");
+    QTest::newRow("None") << "audioNone" << QString("");
+}
+
+void tst_Sound::keyPressPlaysChosenSound()
+{
+    QFETCH(QString, radio);
+    QFETCH(QString, file);
+    if (!radio.isEmpty())
+        find<QRadioButton>(radio)->click();
+    QVERIFY(spy->isEmpty());
+    // Lower and upper case, a digit and a sign.
+    for (int n : {1, 34, 67, 94}) {
+        game->type(n);
+        QCOMPARE(lastSound(), file);
+    }
+    // Space and the keys without a letter make no sound at all.
+    for (Qt::Key key : {Qt::Key_Space, Qt::Key_Tab, Qt::Key_Return, Qt::Key_Backspace,
+             Qt::Key_Shift, Qt::Key_CapsLock, Qt::Key_F1, Qt::Key_Left})
+        QTest::keyClick(window.get(), key);
+    QCOMPARE(spy->count(), 4);
+}
+
+void tst_Sound::silentKeyPressRule_data()
+{
+    QTest::addColumn<sound::KeyPress>("press");
+    QTest::addColumn<bool>("silent");
+    // Shown letter, Strict, finished, gif effect, no fade.
+    QTest::newRow("Strict, gif, the asked key")
+        << sound::KeyPress {true, true, false, true, true} << true;
+    QTest::newRow("Strict, gif, a wrong key")
+        << sound::KeyPress {false, true, false, true, true} << false;
+    QTest::newRow("Soft, gif, the asked key")
+        << sound::KeyPress {true, false, false, true, true} << false;
+    QTest::newRow("finished, no effect")
+        << sound::KeyPress {false, false, true, false, true} << false;
+    QTest::newRow("finished, fade") << sound::KeyPress {false, false, true, false, false} << true;
+    QTest::newRow("finished, gif") << sound::KeyPress {false, true, true, true, true} << true;
+}
+
+void tst_Sound::silentKeyPressRule()
+{
+    QFETCH(sound::KeyPress, press);
+    QFETCH(bool, silent);
+    QCOMPARE(sound::isSilentKeyPress(press), silent);
+}
+
+// Without an effect a found key keeps its sound: the right entry, and the same key after it.
+void tst_Sound::finishedLetterWithoutEffectKeepsItsSound()
+{
+    find<QRadioButton>("audioWhistle")->click();
+    game->click("strict");
+    game->startGame("pbForwardVarious");
+    game->type(1);
+    QCOMPARE(lastSound(), resource("whistle.wav"));
+    QCOMPARE(game->text("labelCorrect"), QString("1"));
+    QTRY_COMPARE(game->field("leUser")->text(), QString());
+    game->type(1);
+    QCOMPARE(lastSound(), resource("whistle.wav"));
+}
+
+void tst_Sound::previewsPlayOnEnterOnly_data()
+{
+    QTest::addColumn<QString>("hoverLabel");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("quack") << "playQuack" << resource("quack1.wav");
+    QTest::newRow("uploaded, none yet") << "playUploadedAudio" << silence;
+    QTest::newRow("uploaded pulse, none yet") << "playUploadedAudioPulse" << silence;
+}
+
+void tst_Sound::previewsPlayOnEnterOnly()
+{
+    QFETCH(QString, hoverLabel);
+    QFETCH(QString, file);
+    hover(find<QLabel>(hoverLabel), QEvent::Enter);
+    QCOMPARE(lastSound(), file);
+    hover(find<QLabel>(hoverLabel), QEvent::Leave);
+    QCOMPARE(spy->count(), 1);
+    // Listening is not choosing.
+    game->type(1);
+    QCOMPARE(lastSound(), silence);
+}
+
+void tst_Sound::uploadDialogs_data()
+{
+    QTest::addColumn<QString>("opener");
+    QTest::addColumn<bool>("accept");
+    QTest::newRow("key press, accepted") << "openAudio" << true;
+    QTest::newRow("key press, cancelled") << "openAudio" << false;
+    QTest::newRow("key press, folder icon") << "openFolderAudio" << true;
+    QTest::newRow("pulse, accepted") << "openAudioPulse" << true;
+    QTest::newRow("pulse, cancelled") << "openAudioPulse" << false;
+}
+
+void tst_Sound::uploadDialogs()
+{
+    QFETCH(QString, opener);
+    QFETCH(bool, accept);
+    const bool pulse = opener.endsWith("Pulse");
+    const QString upload = copyOf("quack.wav");
+    const QString expected = accept ? upload : silence;
+    answerFileDialog(accept ? upload : QString());
+    if (QLabel *icon = find<QLabel>(opener)) {
+        window->show();
+        game->click("menuAudio");
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        QTest::mouseMove(icon);
+        QTest::mouseClick(icon, Qt::LeftButton);
+    } else {
+        game->click(opener);
+    }
+    auto *choice = find<QAbstractButton>(pulse ? "applyAudioToPulse" : "useUploadedAudio");
+    QVERIFY(choice->isEnabled() && choice->isChecked());
+    hover(find<QLabel>(pulse ? "playUploadedAudioPulse" : "playUploadedAudio"), QEvent::Enter);
+    QCOMPARE(lastSound(), expected);
+
+    if (pulse)
+        window->playPulseSound();
+    game->type(1);
+    QCOMPARE(spy->at(spy->count() - (pulse ? 2 : 1)).at(0).toString(), expected);
+    if (pulse)
+        QCOMPARE(lastSound(), silence);
+}
+
+void tst_Sound::pulseSoundFollowsGifChoice_data()
+{
+    QTest::addColumn<QString>("gif");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("Fire Ball") << "explosion" << resource("explosion1.wav");
+    QTest::newRow("Angry Emoticon") << "angryE" << resource("machineGun2.wav");
+    QTest::newRow("Butterfly") << "butterfly" << silence;
+}
+
+// The gif radios belong to the effects panel; radios of their names stand in for them here.
+void tst_Sound::pulseSoundFollowsGifChoice()
+{
+    QFETCH(QString, gif);
+    QFETCH(QString, file);
+    auto *gifs = new QWidget(find<QFrame>("frameFinishedImages"));
+    for (const char *name : {"angryE", "butterfly", "explosion", "finishedNone"})
+        (new QRadioButton(gifs))->setObjectName(QLatin1String(name));
+    find<QRadioButton>(gif)->setChecked(true);
+
+    const QString upload = copyOf("bark.wav");
+    answerFileDialog(upload);
+    game->click("openAudioPulse");
+    // "Apply audio" outranks a gif chosen afterwards.
+    QCOMPARE(window->pulseSoundForGif(gif), upload);
+    auto *apply = find<QCheckBox>("applyAudioToPulse");
+    for (const QString &expected : {file, upload}) {
+        apply->click();
+        window->playPulseSound();
+        QCOMPARE(lastSound(), expected);
+    }
+    apply->click();
+    QCOMPARE(window->pulseSoundForGif(gif), file);
+}
+
+void tst_Sound::unplayableUploadsPlayNothing()
+{
+    const QString notWave = scratch.filePath("notes.wav");
+    QFile text(notWave);
+    QVERIFY(text.open(QIODevice::WriteOnly));
+    text.write("RIFF is not enough: this is a text file\n");
+    text.close();
+    const QString missing = scratch.filePath("missing.wav");
+    QVERIFY(sound::isWaveFile(silence));
+    QVERIFY(!sound::isWaveFile(notWave));
+    QVERIFY(!sound::isWaveFile(missing));
+    sound::SoundBank bank;
+    for (const QString &bad : {notWave, missing, QString()})
+        QVERIFY(!bank.play(bad));
+
+    // An upload gone by the time a key is pressed is asked for, and stays quiet.
+    const QString gone = copyOf("meow.wav");
+    answerFileDialog(gone);
+    game->click("openAudio");
+    QVERIFY(QFile::remove(gone));
+    game->type(1);
+    QCOMPARE(lastSound(), gone);
+}
+
+void tst_Sound::panelOpensAndParks()
+{
+    auto *panel = find<QFrame>("frameAudio");
+    auto *add = find<QPushButton>("openAudio");
+    auto *menu = find<QPushButton>("menuAudio");
+    window->show();
+    for (bool open : {true, false}) {
+        menu->click();
+        QCOMPARE(panel->geometry(), open ? QRect(0, 0, 426, 262) : QRect(1500, 405, 426, 262));
+        QCOMPARE(add->pos(), open ? QPoint(334, 122) : QPoint(1500, 300));
+        QCOMPARE(menu->text(), open ? QString("Close") : QString("Open"));
+        QCOMPARE(panel->isVisible(), open);
+        QCOMPARE(find<QLabel>("markerAudio")->isVisible(), open);
+        // The button lies on top of the panel, beside the folder icon.
+        if (open)
+            QCOMPARE(window->childAt(add->geometry().center()), add);
+        QCOMPARE(add->isVisible(), open);
+    }
+}
+
+QTEST_MAIN(tst_Sound)
+
+#include "tst_sound.moc"
