@@ -56,6 +56,10 @@ extern const std::size_t aidFormRowCount;
 extern const WidgetRow optionsFormRows[];
 extern const std::size_t optionsFormRowCount;
 
+// The boxes and arrows of the guided tour.
+extern const WidgetRow demoFormRows[];
+extern const std::size_t demoFormRowCount;
+
 } // namespace formtable
 
 #endif

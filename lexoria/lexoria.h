@@ -153,6 +153,11 @@ public slots:
     void bridgeBottom_function();
     void makeFusion();
 
+    // The guided tour of the banner's steps, until a game starts or the window is cleared
+    void demo();
+    void arrowShow();
+    void hideDemo();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -191,6 +196,11 @@ private:
     void paintTabs();
     void setNonVitalsVisible(bool visible, bool withMenu = false, bool withColorMadness = false);
     void closeColourDialogs();
+
+    void setUpDemonstration();
+    void demoStep(int step);
+    void stopDemo();
+    void showDemoAfterNonVitals();
 
     void showDisplayMark(const char *mark);
     void showLettersOnKeys(bool russian, bool english);
@@ -301,6 +311,11 @@ private:
     QList<QPointer<QWidget>> nonVitalsCleared;
     int menuRun = 0; // a shot of an older opening or closing of the menu finds it changed
     std::array<QPointer<QPropertyAnimation>, optionscatalogue::SlideCount> slideRunning;
+
+    bool demoStopped = false; // for good: nothing brings the tour back in this run
+    int demoRound = 0;
+    std::array<QLabel *, 4> demoBoxes {};
+    std::array<QLabel *, 4> demoArrows {};
 
     int keyFlashMs = 300;
     int barStepMs = 50;
