@@ -267,6 +267,7 @@ void lexoria::buildTable(QWidget *central)
         {aidFormRows, aidFormRowCount},
         {optionsFormRows, optionsFormRowCount},
         {audioFormRows, audioFormRowCount},
+        {demoFormRows, demoFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

@@ -59,6 +59,10 @@ extern const std::size_t optionsFormRowCount;
 extern const WidgetRow audioFormRows[];
 extern const std::size_t audioFormRowCount;
 
+// The boxes and arrows of the guided tour.
+extern const WidgetRow demoFormRows[];
+extern const std::size_t demoFormRowCount;
+
 } // namespace formtable
 
 #endif

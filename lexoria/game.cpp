@@ -248,6 +248,7 @@ void lexoria::matchGameEnable()
         button->setEnabled(false);
         restyle(button, greyedOut);
     }
+    stopDemo();
     instructorComment();
     ui->underscore_left->show();
     ui->underscore_right->show();

@@ -111,6 +111,7 @@ lexoria::lexoria(QWidget *parent)
     hideFrame();
     ui->widget(QStringLiteral("framePhotos"))->hide();
     makeFusion();
+    setUpDemonstration();
 
     connect(ui->aKeysMap, &QPushButton::clicked, this, &lexoria::aKeysMap_function);
 
@@ -218,6 +219,7 @@ void lexoria::openLexoria()
     centerMainWindow();
     for (QMainWindow *window : readingWindows())
         window->close();
+    demo();
 }
 
 void lexoria::showOW()

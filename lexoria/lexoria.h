@@ -176,6 +176,11 @@ public:
     // The sound a pulse plays once the gif of the given radio is chosen.
     QString pulseSoundForGif(const QString &gifRadio) const;
 
+    // The guided tour of the banner's steps, until a game starts or the window is cleared
+    void demo();
+    void arrowShow();
+    void hideDemo();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -214,6 +219,11 @@ private:
     void paintTabs();
     void setNonVitalsVisible(bool visible, bool withMenu = false, bool withColorMadness = false);
     void closeColourDialogs();
+
+    void setUpDemonstration();
+    void demoStep(int step);
+    void stopDemo();
+    void showDemoAfterNonVitals();
 
     void showDisplayMark(const char *mark);
     void showLettersOnKeys(bool russian, bool english);
@@ -338,6 +348,11 @@ private:
     QStringList uploadedKeypressFiles;
     QStringList uploadedPulseFiles;
     std::unique_ptr<sound::SoundBank> soundBank;
+
+    bool demoStopped = false; // for good: nothing brings the tour back in this run
+    int demoRound = 0;
+    std::array<QLabel *, 4> demoBoxes {};
+    std::array<QLabel *, 4> demoArrows {};
 
     int keyFlashMs = 300;
     int barStepMs = 50;

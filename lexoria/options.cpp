@@ -397,11 +397,13 @@ void lexoria::setNonVitalsVisible(bool visible, bool withMenu, bool withColorMad
 void lexoria::xNonVitalsOn_function()
 {
     setNonVitalsVisible(true);
+    showDemoAfterNonVitals();
 }
 
 void lexoria::xNonVitalsOff_function()
 {
     setNonVitalsVisible(false);
+    stopDemo();
 }
 
 void lexoria::xNonVitalsOn2_function()
@@ -412,6 +414,7 @@ void lexoria::xNonVitalsOn2_function()
 void lexoria::xNonVitalsOff2_function()
 {
     setNonVitalsVisible(false, true, true);
+    stopDemo();
 }
 
 void lexoria::xNonVitalsOnPhotos_function()
@@ -422,6 +425,7 @@ void lexoria::xNonVitalsOnPhotos_function()
 void lexoria::xNonVitalsOffPhotos_function()
 {
     setNonVitalsVisible(false, true);
+    stopDemo();
 }
 
 void lexoria::hideNonVitals_function()
