@@ -266,6 +266,7 @@ void lexoria::buildTable(QWidget *central)
         {mainFormRows, mainFormRowCount},
         {aidFormRows, aidFormRowCount},
         {optionsFormRows, optionsFormRowCount},
+        {effectsFormRows, effectsFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

@@ -87,7 +87,29 @@ class QTableWidget;
     X(QPushButton, hint)                                                                           \
     X(QPushButton, swapGradient6)                                                                  \
     X(QFrame, frameLinehighlight)                                                                  \
-    X(QCheckBox, checkBox)
+    X(QCheckBox, checkBox)                                                                         \
+    X(QFrame, frameVorticKeyboard)                                                                 \
+    X(QPushButton, menuVorticKeyboard)                                                             \
+    X(QLabel, mustStopGameToAccess)                                                                \
+    X(QLabel, markerEk)                                                                            \
+    X(QRadioButton, fadeOut)                                                                       \
+    X(QRadioButton, fadeOutIn)                                                                     \
+    X(QRadioButton, effectNone)                                                                    \
+    X(QRadioButton, angryE)                                                                        \
+    X(QRadioButton, birdsdancing)                                                                  \
+    X(QRadioButton, butterfly)                                                                     \
+    X(QRadioButton, explosion)                                                                     \
+    X(QRadioButton, useUploaded)                                                                   \
+    X(QRadioButton, finishedNone)                                                                  \
+    X(QRadioButton, speed1)                                                                        \
+    X(QRadioButton, speed2)                                                                        \
+    X(QRadioButton, speed3)                                                                        \
+    X(QRadioButton, normalSizeEK)                                                                  \
+    X(QRadioButton, setToFitEK)                                                                    \
+    X(QPushButton, openImageFinished)                                                              \
+    X(QPushButton, clearVorticKeyboardImage)                                                       \
+    X(QLabel, tnCurrentImage)                                                                      \
+    X(QRadioButton, radioNone)
 
 namespace Ui {
 

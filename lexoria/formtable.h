@@ -55,6 +55,9 @@ extern const std::size_t aidFormRowCount;
 // The advanced options menu, its panels and the tabs of the colour panel.
 extern const WidgetRow optionsFormRows[];
 extern const std::size_t optionsFormRowCount;
+// The "Key located effects" panel and the gifs that can be laid on the keys.
+extern const WidgetRow effectsFormRows[];
+extern const std::size_t effectsFormRowCount;
 
 } // namespace formtable
 
