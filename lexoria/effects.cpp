@@ -46,8 +46,6 @@ int layerIndex(int N)
 
 } // namespace
 
-// Everything runs on single shots that are never cancelled, so each step replays a harmless
-// end state when a game was stopped or restarted in between.
 void lexoria::connectEffectsPanel()
 {
     connect(ui->fadeOut, &QRadioButton::clicked, this, &lexoria::fadeOut_function);
@@ -206,6 +204,8 @@ void lexoria::startPulse(int N, int movieIndex)
     movie->start();
 }
 
+// A located key goes and comes back by single shots that are never cancelled: a shot that
+// fires after Stop or a new Start replays a harmless end state on a key already restored.
 void lexoria::gameOn()
 {
     const int n = letterNumberOfText(ui->leMatch->text());

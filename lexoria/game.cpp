@@ -560,7 +560,12 @@ void lexoria::commentOn(int index)
         ui->display2->clear();
         ui->display2->setText(ui->find<QLabel>(QLatin1String(comment.label))->text());
         QTimer::singleShot(7000, this, &lexoria::clearGoodJob);
-        return;
+        break;
+    }
+    if (ui->fadeOut->isChecked() && ui->rbRandom_2->isChecked()) {
+        ui->display2->clear();
+        ui->display2->setText(QStringLiteral("Fade Out does not work with Random"));
+        QTimer::singleShot(7000, this, &lexoria::clearGoodJob);
     }
 }
 

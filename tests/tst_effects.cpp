@@ -52,6 +52,7 @@ private slots:
     void panelRefusedDuringGame();
     void oneEffectPerGame();
     void noEffectLeavesKeysAlone();
+    void fadeOutWarnsInRandomGames();
     void gifPulseOnRightEntry_data();
     void gifPulseOnRightEntry();
     void stopBringsKeysBack();
@@ -76,6 +77,7 @@ private:
     }
     void chooseEffect(const QString &radioName);
     bool keyWhole(int k) const;
+    bool layersHidden(int k) const;
     bool keyGone(int k) const;
     void playStrict(int n);
 
@@ -114,12 +116,17 @@ bool tst_Effects::keyWhole(int k) const
         && label(QString("img%1").arg(k))->pos() == keyRect(k).topLeft();
 }
 
-bool tst_Effects::keyGone(int k) const
+bool tst_Effects::layersHidden(int k) const
 {
     const keycatalogue::CharacterKey &key = characterKey(k);
     return !shown(QString("bg%1").arg(k)) && !shown(QString("r%1_3").arg(k))
         && !shown(QString("shield%1").arg(k)) && !shown(QString("r%1_2").arg(key.lower))
-        && !shown(QString("r%1_2").arg(key.upper)) && !shown(QString("pulsate%1").arg(k));
+        && !shown(QString("r%1_2").arg(key.upper));
+}
+
+bool tst_Effects::keyGone(int k) const
+{
+    return layersHidden(k) && !shown(QString("pulsate%1").arg(k));
 }
 
 // Strict play at a player's pace: each letter once the last entry has cleared.
@@ -191,6 +198,18 @@ void tst_Effects::noEffectLeavesKeysAlone()
     QVERIFY(keyWhole(6));
 }
 
+void tst_Effects::fadeOutWarnsInRandomGames()
+{
+    game->click("menuVorticKeyboard");
+    radio("fadeOut")->click();
+    game->click("menuVorticKeyboard");
+    game->startGame("pbRandomVarious");
+    QCOMPARE(game->text("display2"), QString("Fade Out does not\nwork with Random."));
+
+    game->startGame("pbForwardVarious");
+    QCOMPARE(game->text("display2"), game->text("mes1"));
+}
+
 void tst_Effects::gifPulseOnRightEntry_data()
 {
     QTest::addColumn<QString>("choice");
@@ -223,8 +242,7 @@ void tst_Effects::gifPulseOnRightEntry()
     game->type(1); // а, on key 6 with the underscore
     game->space();
 
-    QVERIFY(keyGone(6) || shown("pulsate6"));
-    QVERIFY(!shown("bg6"));
+    QVERIFY(layersHidden(6));
     QVERIFY(!shown("underscore_left"));
     QCOMPARE(label("img6")->pos(), QPoint(-keyRect(6).x(), keyRect(6).y()));
     QVERIFY(shown("pulsate6"));
@@ -335,8 +353,7 @@ void tst_Effects::randomPulseBringsKeyBack()
     game->field("leMatch")->setText("а");
     QVERIFY(QMetaObject::invokeMethod(window.get(), "gameOnRandom"));
 
-    QVERIFY(keyGone(6) || shown("pulsate6"));
-    QVERIFY(!shown("bg6"));
+    QVERIFY(layersHidden(6));
     QVERIFY(!shown("img6"));
     QCOMPARE(label("img6")->pos(), keyRect(6).topLeft());
     QCOMPARE(label("pulsate6")->movie()->state(), QMovie::Running);
