@@ -239,6 +239,8 @@ void lexoria::movie(int N)
                 image->show();
             }
         }
+        if (target == Highlight && goldHighActive)
+            goldHighOn();
         for (const PictureTarget &other : pictureTargets)
             ui->widget(QLatin1String(other.radioLine))->setVisible(&other == &place);
     }
@@ -279,6 +281,27 @@ void lexoria::clearKeypressImage_function()
 void lexoria::clearHighlightImage_function()
 {
     clearPictureTarget(Highlight);
+    goldHighOff();
+    pictures.highlightImageOn = QStringLiteral("0");
+    if (goldHighActive)
+        goldHighOn();
+    if (gameRunning)
+        return;
+    // The key a new game would start from may still show the picture from the last one.
+    const bool forward = ui->rbForward_2->isChecked();
+    if (!forward && !ui->rbReverse_2->isChecked())
+        return;
+    int n = 0;
+    if (ui->rbVarious->isChecked())
+        n = forward ? 33 : 1;
+    else if (ui->rbConsonants->isChecked())
+        n = forward ? 66 : 34;
+    else if (ui->rbNumberLine->isChecked())
+        n = forward ? 94 : 67;
+    else if (ui->rbAll->isChecked())
+        n = forward ? 94 : 1;
+    if (n > 0)
+        changeColorBack(n);
 }
 
 void lexoria::clearMouseoverImage_function()
