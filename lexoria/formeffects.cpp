@@ -29,7 +29,7 @@ const WidgetRow effectsFormRows[] = {
     {Frame, "frameFade", "frameVorticKeyboard", 474, 94, 206, 165, "", white, "", 0},
     {RadioButton, "fadeOut", "frameFade", 6, 6, 83, 17, "Fade Out", radio, "", 0},
     {RadioButton, "fadeOutIn", "frameFade", 6, 32, 83, 17, "Fade Out/In", radio, "", 0},
-    {Label, "label_227", "frameFade", 28, 52, 102, 16, "If using Box Shadow", caption, "", 0},
+    {Label, "label_227", "frameFade", 28, 52, 102, 16, "If using Box Shadow", radio, "", 0},
     {CheckBox, "shadow3dOn", "frameFade", 32, 76, 110, 16, "Show Box Shadow", radio, "", Checked},
     {Label, "label_228", "frameFade", 48, 92, 111, 38,
         "Warning!\nUnchecking this could\nlead to madness.", radio, "", 0},
