@@ -98,12 +98,12 @@ void tst_Effects::cleanup()
     window.reset();
 }
 
-// Open the panel, pick, close it, and give the movies the time to load the choice.
+// Open the panel, pick, close the options, and give the movies the time to load the choice.
 void tst_Effects::chooseEffect(const QString &radioName)
 {
     game->click("menuVorticKeyboard");
     radio(radioName)->click();
-    game->click("menuVorticKeyboard");
+    game->click("closeX");
     QTest::qWait(1600);
 }
 
@@ -236,7 +236,7 @@ void tst_Effects::gifPulseOnRightEntry()
     game->click("menuVorticKeyboard");
     radio(choice == "explosion" ? "butterfly" : "explosion")->click();
     radio(choice)->click();
-    game->click("menuVorticKeyboard");
+    game->click("closeX");
     QTest::qWait(1600);
     game->startGame("pbForwardVarious");
     game->type(1); // а, on key 6 with the underscore
@@ -392,7 +392,7 @@ void tst_Effects::uploadAccepted()
     QVERIFY(radio("useUploaded")->isChecked());
     QVERIFY(radio("effectNone")->isChecked());
 
-    game->click("menuVorticKeyboard");
+    game->click("closeX");
     QTest::qWait(1600);
     game->startGame("pbForwardVarious");
     game->type(1);
@@ -427,7 +427,7 @@ void tst_Effects::uploadCancelledOrUnreadable()
     QVERIFY(radio("useUploaded")->isChecked());
 
     // The pulse shows nothing, and the key goes all the same.
-    game->click("menuVorticKeyboard");
+    game->click("closeX");
     QTest::qWait(1600);
     game->startGame("pbForwardVarious");
     game->type(1);
