@@ -268,6 +268,7 @@ void lexoria::buildTable(QWidget *central)
         {optionsFormRows, optionsFormRowCount},
         {audioFormRows, audioFormRowCount},
         {demoFormRows, demoFormRowCount},
+        {effectsFormRows, effectsFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {
@@ -337,8 +338,12 @@ void lexoria::buildKeyboard(QWidget *central)
         Qt::AlignHCenter | Qt::AlignBottom));
     add(keyLabel(central, QStringLiteral("underscore_right"), keyRect(10), QStringLiteral("_ "),
         Qt::AlignHCenter | Qt::AlignBottom));
-    for (int number = 1; number <= paintKeyCount; ++number)
-        add(keyLabel(central, QStringLiteral("pulsate%1").arg(number), pulseRect(number)));
+    for (int number = 1; number <= paintKeyCount; ++number) {
+        QLabel *pulse
+            = keyLabel(central, QStringLiteral("pulsate%1").arg(number), pulseRect(number));
+        pulse->setStyleSheet(QStringLiteral("background-color: transparent;"));
+        add(pulse);
+    }
     for (int number = 1; number <= paintKeyCount; ++number) {
         QLabel *cover
             = keyLabel(central, QStringLiteral("displayNone%1").arg(number), paintKeyRect(number));

@@ -95,7 +95,29 @@ class QTableWidget;
     X(QPushButton, openAudioPulse)                                                                 \
     X(QRadioButton, useUploadedAudio)                                                              \
     X(QRadioButton, audioNone)                                                                     \
-    X(QCheckBox, applyAudioToPulse)
+    X(QCheckBox, applyAudioToPulse)                                                              \
+    X(QFrame, frameVorticKeyboard)                                                                 \
+    X(QPushButton, menuVorticKeyboard)                                                             \
+    X(QLabel, mustStopGameToAccess)                                                                \
+    X(QLabel, markerEk)                                                                            \
+    X(QRadioButton, fadeOut)                                                                       \
+    X(QRadioButton, fadeOutIn)                                                                     \
+    X(QRadioButton, effectNone)                                                                    \
+    X(QRadioButton, angryE)                                                                        \
+    X(QRadioButton, birdsdancing)                                                                  \
+    X(QRadioButton, butterfly)                                                                     \
+    X(QRadioButton, explosion)                                                                     \
+    X(QRadioButton, useUploaded)                                                                   \
+    X(QRadioButton, finishedNone)                                                                  \
+    X(QRadioButton, speed1)                                                                        \
+    X(QRadioButton, speed2)                                                                        \
+    X(QRadioButton, speed3)                                                                        \
+    X(QRadioButton, normalSizeEK)                                                                  \
+    X(QRadioButton, setToFitEK)                                                                    \
+    X(QPushButton, openImageFinished)                                                              \
+    X(QPushButton, clearVorticKeyboardImage)                                                       \
+    X(QLabel, tnCurrentImage)                                                                      \
+    X(QRadioButton, radioNone)
 
 namespace Ui {
 

@@ -3,7 +3,6 @@
 namespace formtable {
 
 namespace {
-constexpr const char *white = "background-color: rgb(255, 255, 255);";
 constexpr const char *heading = "color: black; font: italic 10pt \"MS Shell Dlg 2\";";
 constexpr const char *note = "color: black; font: 8pt \"MS Shell Dlg 2\";";
 constexpr const char *speaker = "border-image: url(:/new/prefix1/playLabel.png);";
@@ -11,10 +10,6 @@ constexpr const char *folder = "border-image: url(:/new/prefix1/open.png);";
 } // namespace
 
 const WidgetRow audioFormRows[] = {
-    // Stand-in until the effects panel exists: the gif side's frame for the pulse sound's
-    // controls.
-    {Frame, "frameFinishedImages", nullptr, 1503, 399, 470, 165, "", white, "", 0},
-
     // The panel of key-press sounds
     {Label, "label_266", "frameAudio", 82, 0, 278, 50, "",
         "border-image: url(:/new/prefix1/soundEffects.png);", "", 0},

@@ -62,6 +62,9 @@ extern const std::size_t audioFormRowCount;
 // The boxes and arrows of the guided tour.
 extern const WidgetRow demoFormRows[];
 extern const std::size_t demoFormRowCount;
+// The "Key located effects" panel and the gifs that can be laid on the keys.
+extern const WidgetRow effectsFormRows[];
+extern const std::size_t effectsFormRowCount;
 
 } // namespace formtable
 

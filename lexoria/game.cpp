@@ -250,30 +250,14 @@ void lexoria::matchGameEnable()
     }
     stopDemo();
     instructorComment();
+    effectsAtGameStart();
     ui->underscore_left->show();
     ui->underscore_right->show();
 }
 
 void lexoria::matchGameDisable()
 {
-    if (gameRunning) {
-        // Bring back every layer a key-located effect may have taken away.
-        for (int i = 0; i < keycatalogue::paintKeyCount; ++i) {
-            keyPulseLabels[i]->hide();
-            keyEnglishLabels[i]->show();
-            keyImgLabels[i]->show();
-        }
-        for (QLabel *letter : qAsConst(keyLetterLabels))
-            letter->show();
-        for (int k = 0; k < keycatalogue::characterKeyCount; ++k) {
-            keyShields[k]->show();
-            keyBgLabels[k]->show();
-        }
-    }
-    if (pictures.keysImageOn.isEmpty() || pictures.keysImageOn == QLatin1String("0")) {
-        for (QLabel *image : qAsConst(keyImgLabels))
-            image->hide();
-    }
+    effectsBetweenGames();
     gameRunning = false;
     ui->animationOff->setEnabled(true);
     ui->animationOn->setEnabled(true);
@@ -313,6 +297,7 @@ void lexoria::forwardMG()
             // The index stops at the end of the list even when a mid-game change of group
             // has made the game longer than the letters left.
             if (correctCount < gameLength - 1 && forwardIndex + 1 < letterList.size()) {
+                keyLocated(false);
                 if (goldHighActive)
                     goldHighOff();
                 if (lineHighActive)
@@ -341,6 +326,7 @@ void lexoria::reverseMG()
     const QString match = ui->leMatch->text();
     if (gameRunning && letterList.value(reverseIndex) == match) {
         if (ui->leUser->text() == match) {
+            keyLocated(false);
             if (goldHighActive)
                 goldHighOff();
             if (lineHighActive)
@@ -384,6 +370,7 @@ void lexoria::finishGame(bool forward)
     set_Match_StyleSheet_italic();
     QTimer::singleShot(2000, this, &lexoria::wouldYouLikeToPlayAgain);
     killChebTimer();
+    effectsAtGameEnd(forward, currentGroup());
 
     const GroupInfo &group = groups[currentGroup()];
     const int last = forward ? group.forwardFinalLetter : group.reverseFinalLetter;
@@ -574,7 +561,12 @@ void lexoria::commentOn(int index)
         ui->display2->clear();
         ui->display2->setText(ui->find<QLabel>(QLatin1String(comment.label))->text());
         QTimer::singleShot(7000, this, &lexoria::clearGoodJob);
-        return;
+        break;
+    }
+    if (ui->fadeOut->isChecked() && ui->rbRandom_2->isChecked()) {
+        ui->display2->clear();
+        ui->display2->setText(QStringLiteral("Fade Out does not work with Random"));
+        QTimer::singleShot(7000, this, &lexoria::clearGoodJob);
     }
 }
 

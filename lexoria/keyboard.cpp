@@ -194,7 +194,9 @@ void lexoria::changeColorBack(int n)
         || pictures.mouseoverImageOn == QLatin1String("1"))
         image->hide();
     if (pictures.keysImageOn == QLatin1String("1")) {
-        image->setMovie(&pictures.keysMovie);
+        // Setting the movie a label already has would disconnect and reconnect it for nothing.
+        if (image->movie() != &pictures.keysMovie)
+            image->setMovie(&pictures.keysMovie);
         image->show();
     }
     if (randomPulseFlags[n])

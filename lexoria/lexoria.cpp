@@ -124,6 +124,9 @@ lexoria::lexoria(QWidget *parent)
 
     colorMadnessTabsShadow();
     loadDisplayNoneArray();
+    loadMovieArray();
+    connectEffectsPanel();
+    loadGifs();
     displayBoth();
     // The control keys and the sample key carry no letter, so no restore ever paints them;
     // they take the rest look of the keys once here.

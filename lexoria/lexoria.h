@@ -158,6 +158,51 @@ public slots:
     void bridgeTop_function();
     void bridgeBottom_function();
     void makeFusion();
+    // What a located key does: the effects panel, pulses and explosions (k key, N 1..54)
+    void gameOn();
+    void gameOnRandom();
+    void startGraphicsEffects();
+    void stopAllMovies();
+    void clearMovies();
+    void clearFade();
+    void fadeOut_function();
+    void fadeInOut_function();
+    void explosionOff();
+    void explosionHidePulse(int n);
+    void hidePulseShowKey_Ran(int k);
+    void playPulse(int N);
+    void hidePulseShowKey(int N);
+    void explosionOther(int N);
+    void explosionHidePulseOther(int N);
+    void endGame1_66();
+    void endGame67_94();
+    void endGame94_67();
+    void gameAllIn();
+    void whatAMess();
+    void move_1_33_back();
+    void move_numberline_back();
+    void move_42_47_back();
+
+    // The gifs: effect choice, upload, and the supplied pictures for keys
+    void loadGifs();
+    void loadMovieArray();
+    void finishedAngryE();
+    void finishedBirdsDancing();
+    void finishedButterfly();
+    void finishedExplosion();
+    void finishedUploaded();
+    void openImageFinished_Function();
+    void clearVorticKeyboardImage_function();
+    void setMovieSpeed();
+    void normalSizeEK_function();
+    void setToFitEK_function();
+    void loadVorticKeyboardGame();
+    void movie(int N);
+    void movieNone_function();
+    void clearKeysImage_function();
+    void clearKeypressImage_function();
+    void clearHighlightImage_function();
+    void clearMouseoverImage_function();
     // Sound: every sound of the program goes through playSound
     void playSound(const QString &path);
     void playPulseSound();
@@ -219,6 +264,23 @@ private:
     void paintTabs();
     void setNonVitalsVisible(bool visible, bool withMenu = false, bool withColorMadness = false);
     void closeColourDialogs();
+    void connectEffectsPanel();
+    void keyLocated(bool random);
+    void effectsAtGameStart();
+    void effectsBetweenGames();
+    void effectsAtGameEnd(bool forward, int group);
+    void hideKeyLayers(int k);
+    void showKeyLayers(int k);
+    void moveKeyImagesBack(const int *keys, std::size_t count);
+    void startPulse(int N, int movieIndex);
+    void runChain(int chain);
+    void chooseEffectGif(int index);
+    void setPulseMovies(const QString &file, const QSize &size);
+    void clearPictureTarget(int target);
+    QString &pictureOn(int target);
+    QString &picturePath(int target);
+    QMovie *pictureMovie(int target);
+    bool fadeChosen() const;
 
     void setUpDemonstration();
     void demoStep(int step);
@@ -290,6 +352,10 @@ private:
         QString keypressImageOn = QStringLiteral("0");
         QString highlightImageOn = QStringLiteral("0");
         QString mouseoverImageOn;
+        QString keysImagePath;
+        QString keypressImagePath;
+        QString highlightImagePath;
+        QString mouseoverImagePath;
         QMovie keysMovie;
         QMovie keypressMovie;
         QMovie highlightMovie;
@@ -339,9 +405,6 @@ private:
     QList<QPointer<QWidget>> nonVitalsCleared;
     int menuRun = 0; // a shot of an older opening or closing of the menu finds it changed
     std::array<QPointer<QPropertyAnimation>, optionscatalogue::SlideCount> slideRunning;
-    // The gif side of the key-located effects; the key-press sound falls silent with it.
-    bool gifEffectOn = false;
-
     QString keypressSound;
     QString pulseSound;
     QString silenceSound;
@@ -358,6 +421,23 @@ private:
     int barStepMs = 50;
     int randomBarStepMs = 100;
     int entryClearMs = 100;
+
+    // The effect a located key sets off, and the gifs it plays.
+    struct Effects
+    {
+        bool gifEffectOn = false;
+        bool fadePlayed = false;
+        std::array<QMovie *, 94> pulseMovies {};
+        QMovie *uploadedFullMovie = nullptr;
+        QMovie *uploadedPreviewMovie = nullptr;
+        QString gifPath;
+        QStringList uploadedGifFiles;
+        int gifSpeed = 100;
+        int uploadThumbWidth = 0;
+        int uploadThumbHeight = 0;
+        int uploadPulseWidth = 0;
+        int uploadPulseHeight = 0;
+    } effects;
 
     openingWindow *openingWin = nullptr;
     instructions *instructionsWin = nullptr;

@@ -162,6 +162,14 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{"english", "rcEnglish"}, [](lexoria &w) { w.displayEnglish(); }},
         {{"russian2", "rcRussian"}, [](lexoria &w) { w.displayLexoria(); }},
         {{"none", "rcNone"}, [](lexoria &w) { w.displayNone(); }},
+        {{"tnSwirl1"}, [](lexoria &w) { w.movie(1); }},
+        {{"tnKittyWalk"}, [](lexoria &w) { w.movie(2); }},
+        {{"tnPulsingLight"}, [](lexoria &w) { w.movie(3); }},
+        {{"tnSnow"}, [](lexoria &w) { w.movie(4); }},
+        {{"tnRain"}, [](lexoria &w) { w.movie(5); }},
+        {{"tnSheep"}, [](lexoria &w) { w.movie(6); }},
+        {{"tnMarbleTransparent"}, [](lexoria &w) { w.movie(7); }},
+        {{"tnSnowFall"}, [](lexoria &w) { w.movie(8); }},
     };
     *count = std::size(rows);
     return rows;

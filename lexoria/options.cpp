@@ -134,6 +134,9 @@ void lexoria::hideFrame()
     });
     masterAnimateOut();
     masterOptionsTextOut();
+    // A chosen gif reaches the 94 pulse movies only now, all at once.
+    if (effects.gifEffectOn)
+        QTimer::singleShot(1400, this, &lexoria::loadVorticKeyboardGame);
     restyle(ui->letterOfAlphabet2, QLatin1String(letterNumberAtRest));
     QTimer::singleShot(focusBackDelay, this, &lexoria::clearFocusEverywhere);
     for (int panel : {ColorMadness, Fonts, Shadows, Vortic, Photos, GamePlay, Audio})

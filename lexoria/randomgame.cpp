@@ -55,7 +55,8 @@ void lexoria::randomMG()
                 goldHighOff();
             if (lineHighActive)
                 lineHighOff();
-            // The effects of a located key run here, between the aids going off and the draw.
+            // The located key's effect, between the aids going off and the draw.
+            keyLocated(true);
             drawRandomLetter(900000);
             if (goldHighActive)
                 goldHighOn();

@@ -104,14 +104,12 @@ void lexoria::playPulseSound()
 // The last step of every key press; Space and the control keys never get here.
 void lexoria::keyPressSound(int n)
 {
-    const auto *effectNone = findChild<QRadioButton *>(QStringLiteral("effectNone"));
     const sound::KeyPress press {
         ui->leMatch->text() == letterList[n - 1],
         ui->strict->isChecked(),
         letterDone[n],
-        gifEffectOn,
-        // Without the effects panel no fade can have been chosen.
-        !effectNone || effectNone->isChecked(),
+        effects.gifEffectOn,
+        ui->effectNone->isChecked(),
     };
     playSound(sound::isSilentKeyPress(press) ? silenceSound : keypressSound);
 }
