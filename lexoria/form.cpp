@@ -268,6 +268,7 @@ void lexoria::buildTable(QWidget *central)
         {optionsFormRows, optionsFormRowCount},
         {audioFormRows, audioFormRowCount},
         {demoFormRows, demoFormRowCount},
+        {progressFormRows, progressFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

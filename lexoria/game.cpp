@@ -309,6 +309,7 @@ void lexoria::forwardMG()
 {
     const QString match = ui->leMatch->text();
     if (gameRunning && letterList.value(forwardIndex) == match) {
+        noteEntry(match, ui->leUser->text() == match);
         if (ui->leUser->text() == match) {
             // The index stops at the end of the list even when a mid-game change of group
             // has made the game longer than the letters left.
@@ -340,6 +341,7 @@ void lexoria::reverseMG()
 {
     const QString match = ui->leMatch->text();
     if (gameRunning && letterList.value(reverseIndex) == match) {
+        noteEntry(match, ui->leUser->text() == match);
         if (ui->leUser->text() == match) {
             if (goldHighActive)
                 goldHighOff();
