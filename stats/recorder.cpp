@@ -40,6 +40,8 @@ Recorder::Recorder(QObject *parent)
 
 Recorder::~Recorder()
 {
+    // Whoever listens may be half gone by now; a failure this late has nobody to tell.
+    blockSignals(true);
     flush();
     close();
 }
