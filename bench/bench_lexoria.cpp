@@ -394,7 +394,6 @@ void bench_Lexoria::strictLowercaseGame()
     QCOMPARE(finished, games);
 }
 
-
 // A key press that the judge takes as an entry, and so records, in a Strict game: б while а
 // is asked, a wrong entry every time, so the game never moves on and every round is alike.
 void bench_Lexoria::judgedKeyUntilPainted()

@@ -15,8 +15,7 @@
 void lexoria::setUpStatistics()
 {
     progress.recorder = new stats::Recorder(this);
-    connect(progress.recorder, &stats::Recorder::turnedOff, this,
-        &lexoria::statisticsTurnedOff);
+    connect(progress.recorder, &stats::Recorder::turnedOff, this, &lexoria::statisticsTurnedOff);
     // Connected after the game's own slots, so the first letter is already on show.
     connect(ui->start, &QPushButton::clicked, this, &lexoria::gameStartedForStatistics);
     progress.button = ui->find<QPushButton>(QStringLiteral("yourProgress"));
@@ -26,8 +25,7 @@ void lexoria::setUpStatistics()
 void lexoria::gameStartedForStatistics()
 {
     // Two games started within the same millisecond must still be two games.
-    progress.gameStartedAt
-        = qMax(QDateTime::currentMSecsSinceEpoch(), progress.gameStartedAt + 1);
+    progress.gameStartedAt = qMax(QDateTime::currentMSecsSinceEpoch(), progress.gameStartedAt + 1);
     progress.group = currentGroup();
     progress.direction = ui->rbRandom_2->isChecked() ? gamecatalogue::Random
         : ui->rbReverse_2->isChecked()               ? gamecatalogue::Reverse
@@ -36,9 +34,8 @@ void lexoria::gameStartedForStatistics()
     progress.letterShown.start();
     // The file is opened now rather than at the first pause, so that a broken one is
     // reported while the player is still looking at the board.
-    QTimer::singleShot(0, progress.recorder, [recorder = progress.recorder] {
-        recorder->prepare();
-    });
+    QTimer::singleShot(
+        0, progress.recorder, [recorder = progress.recorder] { recorder->prepare(); });
 }
 
 // Called by the judges once for every entry they judge, before they act on it.

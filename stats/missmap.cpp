@@ -44,7 +44,8 @@ void MissMap::setFigures(const QVector<KeyFigure> &figures)
 
 QSize MissMap::sizeHint() const
 {
-    return QSize(int((right - left) * scale) + 2 * margin, int((bottom - top) * scale) + 2 * margin);
+    return QSize(
+        int((right - left) * scale) + 2 * margin, int((bottom - top) * scale) + 2 * margin);
 }
 
 QColor MissMap::colourOf(const KeyFigure &figure)

@@ -150,9 +150,9 @@ void ProgressWindow::refresh()
         note->setText(tr("No games recorded yet. Play a game and come back to see where you "
                          "stand."));
     else
-        note->setText(tr("%n game(s) recorded; %1 entries in this view.", nullptr,
-            shown.games.size())
-                          .arg(shown.entries));
+        note->setText(
+            tr("%n game(s) recorded; %1 entries in this view.", nullptr, shown.games.size())
+                .arg(shown.entries));
 }
 
 void ProgressWindow::fillLists()
@@ -161,13 +161,12 @@ void ProgressWindow::fillLists()
     slowest->setRowCount(slow.size());
     for (int row = 0; row < slow.size(); ++row)
         setRow(slowest, row,
-            {letter(slow[row].letter),
-                tr("%1 s").arg(slow[row].meanFindMs / 1000.0, 0, 'f', 2)});
+            {letter(slow[row].letter), tr("%1 s").arg(slow[row].meanFindMs / 1000.0, 0, 'f', 2)});
     confused->setRowCount(shown.confused.size());
     for (int row = 0; row < shown.confused.size(); ++row) {
         const ConfusedPair &pair = shown.confused[row];
-        setRow(confused, row,
-            {letter(pair.asked), letter(pair.typed), QString::number(pair.count)});
+        setRow(
+            confused, row, {letter(pair.asked), letter(pair.typed), QString::number(pair.count)});
     }
 }
 

@@ -74,9 +74,8 @@ QVector<LetterFigure> slowestLetters(const QVector<LetterFigure> &letters, int c
     QVector<LetterFigure> found;
     std::copy_if(letters.begin(), letters.end(), std::back_inserter(found),
         [](const LetterFigure &figure) { return figure.meanFindMs > 0; });
-    std::stable_sort(found.begin(), found.end(), [](const LetterFigure &a, const LetterFigure &b) {
-        return a.meanFindMs > b.meanFindMs;
-    });
+    std::stable_sort(found.begin(), found.end(),
+        [](const LetterFigure &a, const LetterFigure &b) { return a.meanFindMs > b.meanFindMs; });
     if (found.size() > count)
         found.resize(count);
     return found;

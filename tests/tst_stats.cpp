@@ -272,11 +272,10 @@ void tst_Stats::windowWithEmptyAndFullHistory()
     QCOMPARE(confused->item(0, 0)->text(), QString("б"));
     QCOMPARE(confused->item(0, 1)->text(), QString("ф"));
     QCOMPARE(confused->item(0, 2)->text(), QString("2"));
-    QCOMPARE(progress->findChild<QTableWidget *>("slowestLetters")->item(0, 0)->text(),
-        QString("б"));
-    const auto series = progress->findChild<QtCharts::QChartView *>("progressChart")
-                            ->chart()
-                            ->series();
+    QCOMPARE(
+        progress->findChild<QTableWidget *>("slowestLetters")->item(0, 0)->text(), QString("б"));
+    const auto series
+        = progress->findChild<QtCharts::QChartView *>("progressChart")->chart()->series();
     QCOMPARE(series.size(), 2);
     QCOMPARE(static_cast<QtCharts::QLineSeries *>(series[0])->count(), 2);
     QCOMPARE(progress->findChild<MissMap *>("missMap")->figures().size(), 47);
