@@ -81,6 +81,9 @@ ProgressWindow::ProgressWindow(Recorder *recorder, QWidget *parent)
 {
     setObjectName(QStringLiteral("progressWindow"));
     setWindowTitle(tr("Your progress"));
+    // A child window inherits the main window's sheet, whose label colours are meant for its
+    // own backgrounds; here the labels stand on the plain window.
+    setStyleSheet(QStringLiteral("QLabel { color: black; background: transparent; }"));
 
     auto *periodRow = new QHBoxLayout;
     periodRow->addWidget(new QLabel(tr("Keys missed over:"), this));
