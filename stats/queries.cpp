@@ -15,7 +15,7 @@ QString periodFilter(Period period, qint64 now)
 {
     switch (period) {
     case Period::LastGame:
-        return QStringLiteral(" WHERE game = (SELECT MAX(game) FROM entries)");
+        return QStringLiteral(" WHERE game = (SELECT MAX(game) FROM games)");
     case Period::LastWeek:
         return QStringLiteral(" WHERE played_at >= %1").arg(now - 7LL * 24 * 3600 * 1000);
     case Period::AllTime:
@@ -56,8 +56,8 @@ Summary summarize(QSqlDatabase db, Period period, qint64 now)
         summary.confused.append(
             {query.value(0).toInt(), query.value(1).toInt(), query.value(2).toInt()});
 
-    query.exec(QStringLiteral("SELECT game, MAX(played_at), COUNT(*), SUM(is_right) FROM entries "
-                              "GROUP BY game ORDER BY game"));
+    query.exec(
+        QStringLiteral("SELECT game, last_at, entries, right_entries FROM games ORDER BY game"));
     while (query.next()) {
         GameFigure figure;
         figure.game = query.value(0).toLongLong();

@@ -11,6 +11,8 @@ namespace stats {
 
 namespace {
 
+// Each game's totals are kept beside its entries, so that the chart of every game never has
+// to walk the whole history; the letter index lets the per-letter figures read it in order.
 const char *const schema[] = {
     "CREATE TABLE entries (id INTEGER PRIMARY KEY, game INTEGER NOT NULL, "
     "played_at INTEGER NOT NULL, asked INTEGER NOT NULL, typed INTEGER NOT NULL, "
@@ -18,6 +20,9 @@ const char *const schema[] = {
     "direction INTEGER NOT NULL, strict INTEGER NOT NULL)",
     "CREATE INDEX entries_by_game ON entries (game)",
     "CREATE INDEX entries_by_time ON entries (played_at)",
+    "CREATE INDEX entries_by_letter ON entries (asked, is_right, typed, find_ms)",
+    "CREATE TABLE games (game INTEGER PRIMARY KEY, last_at INTEGER NOT NULL, "
+    "entries INTEGER NOT NULL, right_entries INTEGER NOT NULL)",
 };
 
 QString errorText(const QSqlError &error)
@@ -190,6 +195,24 @@ bool Recorder::flush()
         }
     }
     insert.finish();
+    QSqlQuery totals(db);
+    totals.prepare(QStringLiteral(
+        "INSERT INTO games (game, last_at, entries, right_entries) VALUES (?, ?, 1, ?) "
+        "ON CONFLICT (game) DO UPDATE SET last_at = MAX(last_at, excluded.last_at), "
+        "entries = entries + 1, right_entries = right_entries + excluded.right_entries"));
+    for (const Entry &entry : pending) {
+        totals.addBindValue(entry.game);
+        totals.addBindValue(entry.playedAt);
+        totals.addBindValue(entry.right ? 1 : 0);
+        if (!totals.exec()) {
+            const QString why = errorText(totals.lastError());
+            totals.finish();
+            db.rollback();
+            turnOff(why);
+            return false;
+        }
+    }
+    totals.finish();
     if (!db.commit()) {
         const QString why = errorText(db.lastError());
         db.rollback();
@@ -207,7 +230,8 @@ bool Recorder::forget()
     if (!prepare())
         return false;
     QSqlQuery query(database());
-    if (!query.exec(QStringLiteral("DELETE FROM entries"))) {
+    if (!query.exec(QStringLiteral("DELETE FROM entries"))
+        || !query.exec(QStringLiteral("DELETE FROM games"))) {
         turnOff(errorText(query.lastError()));
         return false;
     }

@@ -136,6 +136,7 @@ void tst_Stats::recordKnownGames()
     const qint64 recent = now - day;
     recorder->record(entry(recent, recent + 1000, 1, 1, 600));
     recorder->record(entry(recent, recent + 2000, 2, 22, 700));
+    QVERIFY(recorder->flush()); // a pause in the middle of a game
     recorder->record(entry(recent, recent + 4000, 2, 2, 2000));
     recorder->record(entry(recent, recent + 5000, 3, 1, 800));
     recorder->record(entry(recent, recent + 6000, 3, 3, 1000));
@@ -318,6 +319,7 @@ void tst_Stats::brokenHistoryLeavesTheGamePlayable_data()
     QTest::newRow("not a database") << "garbage";
     QTest::newRow("folder cannot be made") << "file in the way";
     QTest::newRow("written by a newer version") << "newer";
+    QTest::newRow("locked by another program") << "locked";
 }
 
 void tst_Stats::brokenHistoryLeavesTheGamePlayable()
@@ -332,6 +334,12 @@ void tst_Stats::brokenHistoryLeavesTheGamePlayable()
         QFile blocker(dir->filePath("data"));
         QVERIFY(blocker.open(QIODevice::WriteOnly));
         file = dir->filePath("data/history.sqlite");
+    } else if (damage == "locked") {
+        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "locker");
+        db.setDatabaseName(file);
+        QVERIFY(db.open());
+        QVERIFY(QSqlQuery(db).exec("CREATE TABLE other (x)"));
+        QVERIFY(QSqlQuery(db).exec("BEGIN EXCLUSIVE"));
     } else {
         {
             QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "newer");
@@ -365,6 +373,10 @@ void tst_Stats::brokenHistoryLeavesTheGamePlayable()
     QVERIFY(window->findChild<QLabel *>("progressNote")->text().startsWith("Statistics are off"));
     if (damage == "garbage")
         QCOMPARE(QFile(file).size(), 4096); // the user's file is left as it was
+    if (damage == "locked") {
+        QSqlDatabase::database("locker").close();
+        QSqlDatabase::removeDatabase("locker");
+    }
 }
 
 QTEST_MAIN(tst_Stats)
