@@ -2,7 +2,9 @@
 
 #include "lexoria/keycatalogue.h"
 
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace stats {
 
@@ -54,6 +56,31 @@ QColor MissMap::colourOf(const KeyFigure &figure)
         return QColor(225, 225, 225);
     const double share = qMin(1.0, figure.missRate() * 3);
     return QColor::fromHsvF((1.0 - share) / 3.0, 0.55, 0.95);
+}
+
+// The numbers behind a key's colour, for the key under the mouse.
+bool MissMap::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const QPoint at = static_cast<QHelpEvent *>(event)->pos();
+    for (const keycatalogue::CharacterKey &key : keycatalogue::characterKeys) {
+        if (!mapped(keycatalogue::keyRect(key.k)).contains(at))
+            continue;
+        const KeyFigure figure = key.k - 1 < keys.size() ? keys[key.k - 1] : KeyFigure();
+        const QString letters = keycatalogue::letterText(key.lower) + QLatin1Char(' ')
+            + keycatalogue::letterText(key.upper);
+        QString text = figure.entries == 0
+            ? tr("%1: not asked yet").arg(letters)
+            : tr("%1: %2 of %3 missed").arg(letters).arg(figure.misses).arg(figure.entries);
+        if (figure.meanFindMs > 0)
+            text += tr(", found in %1 on average").arg(seconds(figure.meanFindMs));
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text, this);
+        return true;
+    }
+    QToolTip::hideText();
+    event->ignore();
+    return true;
 }
 
 void MissMap::paintEvent(QPaintEvent *)

@@ -24,6 +24,7 @@ public:
     static QColor colourOf(const KeyFigure &figure);
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

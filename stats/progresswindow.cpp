@@ -124,6 +124,11 @@ ProgressWindow::ProgressWindow(Recorder *recorder, QWidget *parent)
     auto *left = new QVBoxLayout;
     left->addLayout(periodRow);
     left->addWidget(missMap);
+    auto *legend = new QLabel(tr("Green: never missed, through orange to red: a third or more "
+                                 "missed; grey: not asked. Under the letters: mean time to find."),
+        this);
+    legend->setWordWrap(true);
+    left->addWidget(legend);
     left->addLayout(lists, 1);
     auto *columns = new QHBoxLayout;
     columns->addLayout(left);
@@ -131,7 +136,7 @@ ProgressWindow::ProgressWindow(Recorder *recorder, QWidget *parent)
     auto *page = new QVBoxLayout(this);
     page->addLayout(columns, 1);
     page->addLayout(bottomRow);
-    resize(1180, 560);
+    resize(1180, 640);
 }
 
 Period ProgressWindow::period() const
