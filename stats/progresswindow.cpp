@@ -4,6 +4,7 @@
 #include "stats/missmap.h"
 #include "stats/recorder.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QDateTime>
 #include <QHBoxLayout>
@@ -48,15 +49,20 @@ QTableWidget *makeList(const char *name, const QStringList &headers, QWidget *pa
     list->setSelectionMode(QAbstractItemView::NoSelection);
     list->setFocusPolicy(Qt::NoFocus);
     list->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    list->verticalHeader()->setDefaultSectionSize(20);
+    list->verticalHeader()->setDefaultSectionSize(24);
     return list;
 }
 
-void setRow(QTableWidget *list, int row, const QStringList &cells)
+// The first letterColumns cells are Russian letters, the point of the list: drawn larger.
+void setRow(QTableWidget *list, int row, const QStringList &cells, int letterColumns)
 {
+    QFont letterFont = list->font();
+    letterFont.setPointSizeF(letterFont.pointSizeF() * 1.6);
     for (int column = 0; column < cells.size(); ++column) {
         auto *item = new QTableWidgetItem(cells[column]);
         item->setTextAlignment(Qt::AlignCenter);
+        if (column < letterColumns)
+            item->setFont(letterFont);
         list->setItem(row, column, item);
     }
 }
@@ -81,9 +87,13 @@ ProgressWindow::ProgressWindow(Recorder *recorder, QWidget *parent)
 {
     setObjectName(QStringLiteral("progressWindow"));
     setWindowTitle(tr("Your progress"));
-    // A child window inherits the main window's sheet, whose label colours are meant for its
-    // own backgrounds; here the labels stand on the plain window.
-    setStyleSheet(QStringLiteral("QLabel { color: black; background: transparent; }"));
+    // A child window inherits the main window's sheet, whose label rules are made for its
+    // dark keys and bar; here labels read like the rest of this window, in the program's font.
+    const QFont plain = QApplication::font();
+    setStyleSheet(QStringLiteral("QLabel { font-family: \"%1\"; font-size: %2pt; color: black; "
+                                 "background: transparent; border: none; }")
+                      .arg(plain.family())
+                      .arg(plain.pointSizeF()));
 
     auto *periodRow = new QHBoxLayout;
     periodRow->addWidget(new QLabel(tr("Keys missed over:"), this));
@@ -169,12 +179,13 @@ void ProgressWindow::fillLists()
     slowest->setRowCount(slow.size());
     for (int row = 0; row < slow.size(); ++row)
         setRow(slowest, row,
-            {letter(slow[row].letter), tr("%1 s").arg(slow[row].meanFindMs / 1000.0, 0, 'f', 2)});
+            {letter(slow[row].letter), tr("%1 s").arg(slow[row].meanFindMs / 1000.0, 0, 'f', 2)},
+            1);
     confused->setRowCount(shown.confused.size());
     for (int row = 0; row < shown.confused.size(); ++row) {
         const ConfusedPair &pair = shown.confused[row];
-        setRow(
-            confused, row, {letter(pair.asked), letter(pair.typed), QString::number(pair.count)});
+        setRow(confused, row, {letter(pair.asked), letter(pair.typed), QString::number(pair.count)},
+            2);
     }
 }
 
