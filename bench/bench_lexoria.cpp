@@ -1,11 +1,15 @@
 #include "lexoria/hidpi.h"
 #include "lexoria/lexoria.h"
+#include "stats/progresswindow.h"
+#include "stats/recorder.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 
@@ -180,6 +184,7 @@ public:
     static void initMain() { hidpi::enableScaling(); }
 
 private slots:
+    void initTestCase();
     void construct();
     void constructUntilOpeningWindowPainted();
     void startUntilMainWindowPainted();
@@ -190,6 +195,8 @@ private slots:
     void allChangeColorBackEverythingChanged_data();
     void allChangeColorBackEverythingChanged();
     void strictLowercaseGame();
+    void judgedKeyUntilPainted();
+    void progressWindowUntilPainted();
 
 private:
     std::unique_ptr<lexoria> mainWindowShown();
@@ -205,6 +212,12 @@ std::unique_ptr<lexoria> bench_Lexoria::mainWindowShown()
     if (!watch.waitForFrame())
         return nullptr;
     return w;
+}
+
+// The games played here are recorded in Qt's test folder, not in the user's history.
+void bench_Lexoria::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
 }
 
 // The constructor alone, opening window shown but not yet painted. The windows are kept
@@ -379,6 +392,72 @@ void bench_Lexoria::strictLowercaseGame()
     QVERIFY(painted);
     // A game that did not end would make the figure meaningless.
     QCOMPARE(finished, games);
+}
+
+// A key press that the judge takes as an entry, and so records, in a Strict game: б while а
+// is asked, a wrong entry every time, so the game never moves on and every round is alike.
+void bench_Lexoria::judgedKeyUntilPainted()
+{
+    QTemporaryDir dir;
+    std::unique_ptr<lexoria> w = mainWindowShown();
+    QVERIFY(w);
+    w->statistics()->setDatabasePath(dir.filePath(QStringLiteral("history.sqlite")));
+    click(*w, "animationOff");
+    click(*w, "strict");
+    click(*w, "pbForwardVarious");
+    click(*w, "start");
+    PaintWatch watch(w.get());
+    QLabel *incorrect = w->findChild<QLabel *>(QStringLiteral("labelIncorrect"));
+    bool painted = true;
+    measureRounds(
+        2000, [] {},
+        [&] {
+            QTest::keyPress(w.get(), Qt::Key_Comma);
+            painted = watch.waitForFrame() && painted;
+        },
+        [&] {
+            QTest::keyRelease(w.get(), Qt::Key_Comma);
+            painted = watch.waitForFrame() && painted;
+        });
+    QVERIFY(painted);
+    QVERIFY(incorrect->text().toInt() >= 1);
+}
+
+// "Your progress" over a history of 100,000 entries in 500 games of 200, from the click to
+// the window's first frame; each round opens a window that was never shown.
+void bench_Lexoria::progressWindowUntilPainted()
+{
+    QTemporaryDir dir;
+    stats::Recorder recorder;
+    recorder.setDatabasePath(dir.filePath(QStringLiteral("history.sqlite")));
+    const qint64 start = 1700000000000;
+    for (int i = 0; i < 100000; ++i) {
+        stats::Entry entry;
+        entry.game = start + (i / 200) * 3600000LL;
+        entry.playedAt = entry.game + (i % 200) * 1500;
+        entry.asked = 1 + i % 94;
+        entry.right = i % 7 != 0;
+        entry.typed = entry.right ? entry.asked : 1 + (i * 13) % 94;
+        entry.findMs = 400 + (i * 37) % 3000;
+        recorder.record(entry);
+    }
+    QVERIFY(recorder.flush());
+
+    std::unique_ptr<stats::ProgressWindow> window;
+    bool painted = true;
+    measureRounds(
+        shortRun() ? 1 : 15, [&] { window.reset(); },
+        [&] {
+            window = std::make_unique<stats::ProgressWindow>(&recorder);
+            PaintWatch watch(window.get());
+            window->refresh();
+            window->show();
+            painted = watch.waitForFrame() && painted;
+        },
+        [] {});
+    QVERIFY(painted);
+    QCOMPARE(window->summary().entries, 100000);
+    window.reset();
 }
 
 QTEST_MAIN(bench_Lexoria)

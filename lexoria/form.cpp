@@ -269,6 +269,7 @@ void lexoria::buildTable(QWidget *central)
         {audioFormRows, audioFormRowCount},
         {demoFormRows, demoFormRowCount},
         {effectsFormRows, effectsFormRowCount},
+        {progressFormRows, progressFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

@@ -51,6 +51,8 @@ extern const WidgetRow mainFormRows[];
 extern const std::size_t mainFormRowCount;
 extern const WidgetRow aidFormRows[];
 extern const std::size_t aidFormRowCount;
+extern const WidgetRow progressFormRows[];
+extern const std::size_t progressFormRowCount;
 
 // The advanced options menu, its panels and the tabs of the colour panel.
 extern const WidgetRow optionsFormRows[];

@@ -293,6 +293,7 @@ void lexoria::forwardMG()
 {
     const QString match = ui->leMatch->text();
     if (gameRunning && letterList.value(forwardIndex) == match) {
+        noteEntry(match, ui->leUser->text() == match);
         if (ui->leUser->text() == match) {
             // The index stops at the end of the list even when a mid-game change of group
             // has made the game longer than the letters left.
@@ -325,6 +326,7 @@ void lexoria::reverseMG()
 {
     const QString match = ui->leMatch->text();
     if (gameRunning && letterList.value(reverseIndex) == match) {
+        noteEntry(match, ui->leUser->text() == match);
         if (ui->leUser->text() == match) {
             keyLocated(false);
             if (goldHighActive)

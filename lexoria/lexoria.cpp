@@ -63,6 +63,7 @@ lexoria::lexoria(QWidget *parent)
     connect(ui->helpButton, &QPushButton::clicked, this, &lexoria::showOW);
 
     createSecondaryWindows();
+    setUpStatistics();
     ui->display3->show();
     connect(ui->buttonInstructionsRight, &QPushButton::clicked, this, &lexoria::hideInsRight);
     connect(ui->buttonInstructionsLeft, &QPushButton::clicked, this, &lexoria::hideInsLeft);

@@ -4,6 +4,7 @@
 #include "lexoria/optionscatalogue.h"
 #include "lexoria/stylepieces.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QList>
 #include <QMainWindow>
@@ -19,6 +20,7 @@
 class QLabel;
 class QPropertyAnimation;
 class QRadioButton;
+class QPushButton;
 class aboutWindow;
 class exploreWorld;
 class instructions;
@@ -33,6 +35,11 @@ namespace sound {
 class SoundBank;
 }
 
+namespace stats {
+class ProgressWindow;
+class Recorder;
+}
+
 class lexoria : public QMainWindow
 {
     Q_OBJECT
@@ -45,6 +52,9 @@ public:
     static void initResources();
 
     Ui::lexoria *ui;
+
+    // Every judged entry goes here; tests point it at a file of their own.
+    stats::Recorder *statistics() const { return progress.recorder; }
 
 public slots:
     void openLexoria();
@@ -226,6 +236,10 @@ public:
     void arrowShow();
     void hideDemo();
 
+public slots:
+    // The history of past games
+    void showProgress();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -257,6 +271,10 @@ private:
     void chebTick();
     bool drawRandomLetter(int modulus);
     void finishRandomGame();
+    void setUpStatistics();
+    void gameStartedForStatistics();
+    void noteEntry(const QString &asked, bool right);
+    void statisticsTurnedOff(const QString &reason);
 
     void connectOptions();
     void slide(int id);
@@ -438,6 +456,19 @@ private:
         int uploadPulseWidth = 0;
         int uploadPulseHeight = 0;
     } effects;
+    // What the judges tell the history: the game as it was chosen at Start, and how long the
+    // letter on show has been waiting.
+    struct Progress
+    {
+        stats::Recorder *recorder = nullptr;
+        stats::ProgressWindow *window = nullptr;
+        QPushButton *button = nullptr;
+        QElapsedTimer letterShown;
+        qint64 gameStartedAt = 0;
+        int group = 0;
+        int direction = 0;
+        bool strict = false;
+    } progress;
 
     openingWindow *openingWin = nullptr;
     instructions *instructionsWin = nullptr;

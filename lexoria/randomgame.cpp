@@ -49,6 +49,7 @@ void lexoria::randomMG()
 {
     const QString match = ui->leMatch->text();
     if (gameRunning && letterList.value(randomIndex) == match) {
+        noteEntry(match, ui->leUser->text() == match);
         if (ui->leUser->text() == match) {
             // Taken off while leMatch still names the letter they were put on.
             if (goldHighActive)
