@@ -113,6 +113,8 @@ void lexoria::effectsAtGameStart()
 
 void lexoria::effectsBetweenGames()
 {
+    if (effects.fadePlayed && !gameCompleted)
+        fadeOutReset();
     if (effects.gifEffectOn && !gameCompleted) {
         move_1_33_back();
         move_numberline_back();
@@ -400,6 +402,7 @@ void lexoria::startGraphicsEffects()
 {
     effects.gifEffectOn = false;
     effects.fadePlayed = true;
+    fadeLocatedKey();
 }
 
 void lexoria::explosionOff()

@@ -546,6 +546,8 @@ void lexoria::timerEvent(QTimerEvent *event)
         ++clockSeconds;
         ui->lcd->display(clockSeconds);
     }
+    if (fades.fadeExampleTimerId != 0 && event->timerId() == fades.fadeExampleTimerId)
+        fadeOutExample();
 }
 
 // At Start the comment goes by the forward position, which clears has just put at 0, so

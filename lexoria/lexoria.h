@@ -193,6 +193,22 @@ public slots:
     void move_numberline_back();
     void move_42_47_back();
 
+    // Fades of a located key and the waves that bring keys back (N 1..47 keys, 48..54 controls)
+    void fadeOut(int N);
+    void fadeIn(int N);
+    void fadeInShadow(int N);
+    void allFadeIn();
+    void allFadeInReverse();
+    void fadeAll();
+    void fadeAllReverse();
+    void fadeOutReset();
+    void shadow3dpart2();
+    void shadow3dOnFalse_function();
+    void startFade();
+    void stopFade();
+    void fadeOutExample();
+    void fadeInExample();
+
     // The gifs: effect choice, upload, and the supplied pictures for keys
     void loadGifs();
     void loadMovieArray();
@@ -304,6 +320,14 @@ private:
     void demoStep(int step);
     void stopDemo();
     void showDemoAfterNonVitals();
+    void fadeLocatedKey();
+    QList<QWidget *> fadeLayers(int N) const;
+    void fadeLabels(const QList<QWidget *> &layers, qreal from, qreal to, int ms);
+    void laterFade(int N, int ms, bool in);
+    void runFadeWave(int fromMs, const int *keys, int count, bool backwards, bool in);
+    bool shadowsShown() const;
+    void setShadowsShown(bool shown);
+    bool keyHasDoneLetter(int k) const;
 
     void showDisplayMark(const char *mark);
     void showLettersOnKeys(bool russian, bool english);
@@ -469,6 +493,33 @@ private:
         int direction = 0;
         bool strict = false;
     } progress;
+
+    // The shadow groups a returning key reads; the shadows panel sets them. A slider position
+    // 0..4 gives a distance of 2..6 pixels, the corner is where the shadow falls.
+    enum ShadowCorner { TopRight, TopLeft, BottomRight, BottomLeft };
+    struct ShadowGroup
+    {
+        bool on = false;
+        int slider = 2;
+        ShadowCorner corner = BottomRight;
+        QString color = QStringLiteral("#484848");
+    };
+    struct Shadows
+    {
+        ShadowGroup english;
+        ShadowGroup upper;
+        ShadowGroup lower;
+        ShadowGroup odd;
+        ShadowGroup even;
+        int sliderTricks = 0;
+        int sliderTricks_2 = 0;
+    } shadows;
+
+    struct Fades
+    {
+        int fadeInMs = 1000;
+        int fadeExampleTimerId = 0;
+    } fades;
 
     openingWindow *openingWin = nullptr;
     instructions *instructionsWin = nullptr;

@@ -253,6 +253,9 @@ void lexoria::openPanel(int panel)
     }
     if (panel == GamePlay)
         ui->widget(QStringLiteral("optionsShield"))->hide();
+    // The example key only fades while someone can see it.
+    if (panel == Vortic)
+        startFade();
 
     if (QWidget *button = ui->widget(QLatin1String(row.button)))
         static_cast<QPushButton *>(button)->setText(QStringLiteral("Close"));
@@ -279,6 +282,8 @@ void lexoria::hidePanel(int panel)
         }
     }
 
+    if (panel == Vortic)
+        stopFade();
     if (QWidget *button = ui->widget(QLatin1String(row.button)))
         static_cast<QPushButton *>(button)->setText(QStringLiteral("Open"));
     openPanels.*row.open = false;
