@@ -168,6 +168,9 @@ void lexoria::fadeInShadow(int N)
         auto *shadow = new QGraphicsDropShadowEffect(this);
         shadow->setOffset(offset);
         shadow->setColor(g.on ? QColor(g.color) : QColor(Qt::transparent));
+        // An invisible shadow leaves the layer looking as it would without one, while an
+        // enabled effect blurs a pixmap of it at every repaint and widens every update.
+        shadow->setEnabled(shadow->color().alpha() != 0);
         layer->setGraphicsEffect(shadow);
     };
 
