@@ -139,7 +139,8 @@ void lexoria::hideFrame()
         QTimer::singleShot(1400, this, &lexoria::loadVorticKeyboardGame);
     restyle(ui->letterOfAlphabet2, QLatin1String(letterNumberAtRest));
     QTimer::singleShot(focusBackDelay, this, &lexoria::clearFocusEverywhere);
-    for (int panel : {ColorMadness, Fonts, Shadows, Vortic, Photos, GamePlay, Audio})
+    for (int panel :
+        {ColorMadness, Fonts, optionscatalogue::Shadows, Vortic, Photos, GamePlay, Audio})
         hidePanel(panel);
     closeColourDialogs();
     // Until then a click on "Show Advanced Options" is ignored, so a double click on closeX
