@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMutex>
 #include <QPixmapCache>
@@ -530,6 +531,27 @@ QString tst_Monkey::testFileFor(const QStringList &filters)
 
 void tst_Monkey::answerDialogs()
 {
+    // A context menu or any other popup runs its own event loop until it is closed.
+    if (QWidget *popup = QApplication::activePopupWidget()) {
+        QAction *chosen = nullptr;
+        if (auto *menu = qobject_cast<QMenu *>(popup)) {
+            QList<QAction *> actions;
+            for (QAction *action : menu->actions()) {
+                if (action->isEnabled() && !action->isSeparator() && !action->menu()
+                    && !action->text().contains(QLatin1String("quit"), Qt::CaseInsensitive))
+                    actions.append(action);
+            }
+            if (chance(50))
+                chosen = pick(actions);
+        }
+        trace(QStringLiteral("popup %1 closed%2")
+                  .arg(popup->metaObject()->className())
+                  .arg(chosen ? QStringLiteral(" with ") + chosen->text() : QString()));
+        popup->close();
+        if (chosen)
+            chosen->trigger();
+        return;
+    }
     QWidget *modal = QApplication::activeModalWidget();
     if (!modal)
         return;
