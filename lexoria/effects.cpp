@@ -163,32 +163,18 @@ void lexoria::effectsAtGameEnd(bool forward, int group)
     }
 }
 
-void lexoria::hideKeyLayers(int k)
+void lexoria::setKeyLayersVisible(int k, bool visible)
 {
     const CharacterKey &key = characterKey(k);
-    keyBgLabels[k - 1]->hide();
-    keyEnglishLabels[k - 1]->hide();
-    keyShields[k - 1]->hide();
-    keyLetterLabels[key.lower - 1]->hide();
-    keyLetterLabels[key.upper - 1]->hide();
-    if (k == 6)
-        ui->underscore_left->hide();
-    else if (k == 10)
-        ui->underscore_right->hide();
-}
-
-void lexoria::showKeyLayers(int k)
-{
-    const CharacterKey &key = characterKey(k);
-    keyBgLabels[k - 1]->show();
-    keyEnglishLabels[k - 1]->show();
-    keyShields[k - 1]->show();
-    keyLetterLabels[key.lower - 1]->show();
-    keyLetterLabels[key.upper - 1]->show();
-    if (k == 6)
-        ui->underscore_left->show();
-    else if (k == 10)
-        ui->underscore_right->show();
+    QWidget *layers[] = {keyBgLabels[k - 1], keyEnglishLabels[k - 1], keyShields[k - 1],
+        keyLetterLabels[key.lower - 1], keyLetterLabels[key.upper - 1],
+        k == 6        ? ui->underscore_left
+            : k == 10 ? ui->underscore_right
+                      : nullptr};
+    for (QWidget *layer : layers) {
+        if (layer)
+            layer->setVisible(visible);
+    }
 }
 
 void lexoria::startPulse(int N, int movieIndex)
@@ -209,7 +195,7 @@ void lexoria::gameOn()
     if (n < 1)
         return;
     const int k = keyOfLetter(n);
-    hideKeyLayers(k);
+    setKeyLayersVisible(k, false);
     // Restoring a key shows its picture whenever one is set, so a hidden picture would come
     // back through the empty place; one moved out of the window stays away.
     const QPoint place = keyRect(k).topLeft();
@@ -295,7 +281,7 @@ void lexoria::gameOnRandom()
     const int k = keyOfLetter(n);
     randomPulseFlags[n] = true;
     keyImgLabels[k - 1]->hide();
-    hideKeyLayers(k);
+    setKeyLayersVisible(k, false);
     startPulse(k, k - 1);
     QTimer::singleShot(pulseMs, this, [this, k] { hidePulseShowKey_Ran(k); });
     playSound(pulseSound);
@@ -307,7 +293,7 @@ void lexoria::hidePulseShowKey_Ran(int k)
     randomPulseFlags[key.lower] = false;
     randomPulseFlags[key.upper] = false;
     keyPulseLabels[k - 1]->hide();
-    showKeyLayers(k);
+    setKeyLayersVisible(k, true);
     effects.pulseMovies[k - 1]->stop();
     keyImgLabels[k - 1]->show();
 }
@@ -323,7 +309,7 @@ void lexoria::hidePulseShowKey(int N)
     keyPulseLabels[N - 1]->hide();
     effects.pulseMovies[N - 1]->stop();
     if (N <= characterKeyCount) {
-        showKeyLayers(N);
+        setKeyLayersVisible(N, true);
         keyImgLabels[N - 1]->move(keyRect(N).topLeft());
         return;
     }

@@ -303,8 +303,7 @@ private:
     void effectsAtGameStart();
     void effectsBetweenGames();
     void effectsAtGameEnd(bool forward, int group);
-    void hideKeyLayers(int k);
-    void showKeyLayers(int k);
+    void setKeyLayersVisible(int k, bool visible);
     void moveKeyImagesBack(const int *keys, std::size_t count);
     void startPulse(int N, int movieIndex);
     void runChain(int chain);
