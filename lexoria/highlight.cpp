@@ -94,25 +94,7 @@ void lexoria::goldHighOff()
     const QString letter
         = (rowPainted(n) ? painted.paintCharColor[n] : colourPiece(n)) + fontPiece(n);
     restyle(keyLetterLabels[n - 1], letter);
-    const bool englishPainted = painted.paintEnglishOn;
-    restyle(keyEnglishLabels[k - 1],
-        (englishPainted ? painted.paintEnglishColor[k] : pieces.englishColorStyle)
-            + pieces.englishFontStyle);
-    if (k == 6) {
-        restyle(ui->underscore_left,
-            (englishPainted ? painted.paintUnderscoreLeftColor : pieces.englishColorStyle)
-                + pieces.englishFontStyle);
-    } else if (k == 10) {
-        restyle(ui->underscore_right,
-            (englishPainted ? painted.paintUnderscoreRightColor : pieces.englishColorStyle)
-                + pieces.englishFontStyle);
-    }
-    if (painted.paintBackgroundOn || painted.paintBorderOn)
-        restyle(keyBgLabels[k - 1],
-            pieces.keyRadiusStyle + painted.paintBgStyle[k] + painted.paintBorderStyle[k]);
-    else
-        restyle(keyBgLabels[k - 1],
-            pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle);
+    restKeyFace(k);
     QLabel *image = keyImgLabels[k - 1];
     if (isOn(pictures.keysImageOn)) {
         image->setMovie(&pictures.keysMovie);

@@ -153,6 +153,29 @@ void lexoria::key(int n)
     keyPressSound(n);
 }
 
+// The English label, its underscore and the face of key k at rest, painted or not.
+void lexoria::restKeyFace(int k)
+{
+    const QString &english
+        = painted.paintEnglishOn ? painted.paintEnglishColor[k] : pieces.englishColorStyle;
+    restyle(keyEnglishLabels[k - 1], english + pieces.englishFontStyle);
+    if (k == 6) {
+        restyle(ui->underscore_left,
+            (painted.paintEnglishOn ? painted.paintUnderscoreLeftColor : pieces.englishColorStyle)
+                + pieces.englishFontStyle);
+    } else if (k == 10) {
+        restyle(ui->underscore_right,
+            (painted.paintEnglishOn ? painted.paintUnderscoreRightColor : pieces.englishColorStyle)
+                + pieces.englishFontStyle);
+    }
+    if (painted.paintBackgroundOn || painted.paintBorderOn)
+        restyle(keyBgLabels[k - 1],
+            pieces.keyRadiusStyle + painted.paintBgStyle[k] + painted.paintBorderStyle[k]);
+    else
+        restyle(keyBgLabels[k - 1],
+            pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle);
+}
+
 void lexoria::changeColorBack(int n)
 {
     const int k = keyOfLetter(n);
@@ -169,25 +192,7 @@ void lexoria::changeColorBack(int n)
     }
     restyle(keyLetterLabels[n - 1], letterColour + font);
 
-    const QString &english
-        = painted.paintEnglishOn ? painted.paintEnglishColor[k] : pieces.englishColorStyle;
-    restyle(keyEnglishLabels[k - 1], english + pieces.englishFontStyle);
-    if (k == 6) {
-        restyle(ui->underscore_left,
-            (painted.paintEnglishOn ? painted.paintUnderscoreLeftColor : pieces.englishColorStyle)
-                + pieces.englishFontStyle);
-    } else if (k == 10) {
-        restyle(ui->underscore_right,
-            (painted.paintEnglishOn ? painted.paintUnderscoreRightColor : pieces.englishColorStyle)
-                + pieces.englishFontStyle);
-    }
-
-    if (painted.paintBackgroundOn || painted.paintBorderOn)
-        restyle(keyBgLabels[k - 1],
-            pieces.keyRadiusStyle + painted.paintBgStyle[k] + painted.paintBorderStyle[k]);
-    else
-        restyle(keyBgLabels[k - 1],
-            pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle);
+    restKeyFace(k);
 
     QLabel *image = keyImgLabels[k - 1];
     if (pictures.keypressImageOn == QLatin1String("1")

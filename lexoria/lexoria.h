@@ -304,6 +304,7 @@ private:
     void effectsBetweenGames();
     void effectsAtGameEnd(bool forward, int group);
     void setKeyLayersVisible(int k, bool visible);
+    void restKeyFace(int k);
     void moveKeyImagesBack(const int *keys, std::size_t count);
     void startPulse(int N, int movieIndex);
     void runChain(int chain);
