@@ -1,6 +1,7 @@
 #ifndef LEXORIA_H
 #define LEXORIA_H
 
+#include "lexoria/colortargets.h"
 #include "lexoria/optionscatalogue.h"
 #include "lexoria/stylepieces.h"
 
@@ -17,6 +18,7 @@
 #include <cstddef>
 #include <memory>
 
+class QColor;
 class QLabel;
 class QPropertyAnimation;
 class QRadioButton;
@@ -252,6 +254,26 @@ public:
     void arrowShow();
     void hideDemo();
 
+    // Color Madness. Gradient targets are numbered 1..8 and 27 (keys, keypress, mouseover,
+    // highlight, finished, line highlight, wallpaper, rainbow, game play).
+    void grad(int target);
+    void gradMain(int target);
+    void bgColorLoops();
+    void bgColorLoops2();
+    void bgColorLoops5();
+    void allRise();
+    void enableColor(int picker);
+    void fillRainbowE();
+    void fillRainbowUp();
+    void fillRainbowLow();
+    void fillRainbowBg();
+    void fillRainbowBorder();
+    void shadowThClear();
+    void akoKeysEng_26(const QColor &color);
+    void newColor26(const QColor &color);
+    void ako30(const QColor &color);
+    void newColor30(const QColor &color);
+
 public slots:
     // The history of past games
     void showProgress();
@@ -370,6 +392,8 @@ private:
     QList<QPixmap> instructorPixmaps;
 
     StylePieces pieces;
+    ColorTargets targets;
+    PickerState pickerState;
 
     // Keys painted one by one keep their own pieces, used while a layer's paint flag is on.
     struct Painted
@@ -379,6 +403,12 @@ private:
         bool paintEnglishOn = false;
         bool paintUpperOn = false;
         bool paintLowerOn = false;
+        // The flags as the paint theme file writes them, "0" or "1".
+        QString paintBackgroundText = QStringLiteral("0");
+        QString paintBorderText = QStringLiteral("0");
+        QString paintEnglishText = QStringLiteral("0");
+        QString paintUpperText = QStringLiteral("0");
+        QString paintLowerText = QStringLiteral("0");
         std::array<QString, 95> paintCharColor;
         std::array<QString, 55> paintEnglishColor;
         std::array<QString, 55> paintBgStyle;

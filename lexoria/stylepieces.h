@@ -24,6 +24,10 @@ struct StylePieces
     QString highlightBorderStyle;
     QString finishedBgStyle = verticalGradient("rgb(115, 115, 115)", ".5", "rgb(115, 115, 115)");
     QString finishedColorStyle = " color: white; ";
+    QString wallpaperBgStyle = verticalGradient("white", ".5", "white");
+    QString wallpaperBorderStyle;
+    QString rainbowBgStyle = verticalGradient("black", ".5", "black");
+    QString rainbowBorderStyle;
 
     QString englishColorStyle = "color: white;";
     QString upperColorStyle = "color: white;";

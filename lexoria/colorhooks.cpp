@@ -1,0 +1,38 @@
+#include "lexoria/lexoria.h"
+
+// Seams between the parts of Color Madness while they are being built: each of these is replaced
+// by its real body in the file of its own subsystem.
+
+void lexoria::grad(int) { }
+
+void lexoria::gradMain(int) { }
+
+void lexoria::bgColorLoops() { }
+
+void lexoria::bgColorLoops2() { }
+
+void lexoria::bgColorLoops5() { }
+
+void lexoria::allRise() { }
+
+void lexoria::enableColor(int) { }
+
+void lexoria::fillRainbowE() { }
+
+void lexoria::fillRainbowUp() { }
+
+void lexoria::fillRainbowLow() { }
+
+void lexoria::fillRainbowBg() { }
+
+void lexoria::fillRainbowBorder() { }
+
+void lexoria::shadowThClear() { }
+
+void lexoria::akoKeysEng_26(const QColor &) { }
+
+void lexoria::newColor26(const QColor &) { }
+
+void lexoria::ako30(const QColor &) { }
+
+void lexoria::newColor30(const QColor &) { }
