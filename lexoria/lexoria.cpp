@@ -205,8 +205,12 @@ void lexoria::createReadingWindows()
     closesToFront(aboutWin->ui->awExitButton, aboutWin);
 
     const Qt::WindowFlags readingFlags = Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint;
-    for (QMainWindow *window : readingWindows())
+    // This window's sheet paints every label's text white for the dark keyboard; as children the
+    // reading windows would inherit that on their light pages, so their labels default to dark.
+    for (QMainWindow *window : readingWindows()) {
         window->setWindowFlags(readingFlags);
+        window->setStyleSheet(QStringLiteral("QLabel { color: black; }"));
+    }
     instructionsWin->setWindowIcon(QIcon(QStringLiteral(":/new/prefix1/russianFlag.gif")));
 }
 

@@ -2,6 +2,7 @@
 // underMouse() true for the frame under the pointer, which the map of the instructions reads.
 #define QTEST_QPA_MOUSE_HANDLING
 
+#include "lexoria/lexoria.h"
 #include "windows/aboutwindow.h"
 #include "windows/exploreworld.h"
 #include "windows/instructions.h"
@@ -10,12 +11,16 @@
 #include "windows/ui_aboutwindow.h"
 #include "windows/ui_instructions.h"
 
+#include <QApplication>
+#include <QHash>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QtTest>
 
+#include <cmath>
 #include <memory>
+#include <tuple>
 
 class tst_Windows : public QObject
 {
@@ -34,6 +39,8 @@ private slots:
     void mapClick();
     void clickThatChangesNothing_data();
     void clickThatChangesNothing();
+
+    void readingWindowsReadableBesideMainWindow();
 
 private:
     static std::unique_ptr<QMainWindow> makeWindow(const QString &className);
@@ -271,6 +278,79 @@ void tst_Windows::clickThatChangesNothing()
 
     clickOn(widget, point, Qt::MouseButton(button));
     QCOMPARE(mapText(), before);
+}
+
+namespace {
+
+double luminance(QColor colour)
+{
+    auto channel = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF())
+        + 0.0722 * channel(colour.blueF());
+}
+
+double contrast(QColor a, QColor b)
+{
+    const double la = luminance(a);
+    const double lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+// The colour most pixels of the label show: what its text stands on.
+QColor groundOf(const QImage &window, const QRect &rect)
+{
+    QHash<QRgb, int> counts;
+    for (int y = rect.top(); y <= rect.bottom(); ++y)
+        for (int x = rect.left(); x <= rect.right(); ++x)
+            if (window.rect().contains(x, y))
+                ++counts[window.pixel(x, y)];
+    QRgb most = 0;
+    int best = -1;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        if (it.value() > best)
+            std::tie(most, best) = std::make_pair(it.key(), it.value());
+    return QColor(most);
+}
+
+} // namespace
+
+// The main window's own sheet colours labels for its dark keyboard; its reading windows are its
+// children and stand on light pages, so every text of theirs must still be readable there.
+void tst_Windows::readingWindowsReadableBesideMainWindow()
+{
+    lexoria main;
+    QPushButton *about = nullptr;
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (!about)
+            about = window->findChild<QPushButton *>(QStringLiteral("owAboutButton"));
+    QVERIFY(about);
+    about->click(); // the reading windows are made on the first visit
+
+    const QStringList names = {"instructions", "selfExplore", "exploreWorld", "aboutWindow"};
+    int checked = 0;
+    for (const QString &name : names) {
+        auto *window = main.findChild<QMainWindow *>(name);
+        QVERIFY2(window, qPrintable(name));
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        const QImage image = window->grab().toImage();
+        for (const QLabel *label : window->findChildren<QLabel *>()) {
+            if (!label->isVisible() || label->text().trimmed().isEmpty()
+                || label->text().startsWith(QLatin1String("<a ")))
+                continue;
+            const QRect rect(label->mapTo(window, QPoint()), label->size());
+            const QColor text = label->palette().color(label->foregroundRole());
+            const QColor ground = groundOf(image, rect);
+            QVERIFY2(contrast(text, ground) >= 3.0,
+                qPrintable(QStringLiteral("%1/%2: %3 on %4")
+                               .arg(name, label->objectName(), text.name(), ground.name())));
+            ++checked;
+        }
+        window->hide();
+    }
+    QVERIFY(checked >= 10);
 }
 
 QTEST_MAIN(tst_Windows)
