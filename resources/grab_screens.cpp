@@ -230,16 +230,28 @@ int writeDocs(const QDir &folder)
         pictures.append({window.findChild<QMainWindow *>(QStringLiteral("openingWindow")),
             "opening-window.png"});
     }
-    for (const auto &[widget, file] : qAsConst(pictures)) {
+    auto write = [&folder](QWidget *widget, const char *file) {
         QString error;
         const QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
         if (!save(image, folder.filePath(QLatin1String(file)), &error)) {
             std::fprintf(stderr, "vortic-screens: %s: %s\n", file, qPrintable(error));
-            return 1;
+            return false;
         }
         std::printf("%s  %dx%d\n", file, image.width(), image.height());
-    }
-    return 0;
+        return true;
+    };
+    for (const auto &[widget, file] : qAsConst(pictures))
+        if (!write(widget, file))
+            return 1;
+    if (doubled)
+        return 0;
+    // The guided tour lights one step every 3.5 s from the moment the window opens: one picture
+    // in the first step and one in the second.
+    QTest::qWait(1000);
+    if (!write(&window, "tour-step-1.png"))
+        return 1;
+    QTest::qWait(3500);
+    return write(&window, "tour-step-2.png") ? 0 : 1;
 }
 
 } // namespace
