@@ -149,7 +149,8 @@ void addPanel(Builder &b, const PanelSpec &p)
     const QByteArray n = QByteArray::number(p.number);
     const char *radioParent = p.parent;
     if (p.box) {
-        if (p.number != 27)
+        // The wallpaper frame's heading leaves no room for a caption over its buttons.
+        if (p.boxY - 18 >= 34)
             b.add({Label, b.name("gradientTargetCaption" + n), p.parent, p.boxX, p.boxY - 18, 200,
                 16, "Target to Affect", caption, "", 0});
         b.add({Widget, p.box, p.parent, p.boxX, p.boxY, p.boxW, p.boxH, "", "", "", 0});
