@@ -79,7 +79,7 @@ void lexoria::setUpGradients()
         const GradientSide sample = {"black", "gold", "black", "gold", 1, 5};
         for (int s = 0; s < shapeCount; ++s)
             restyle(ui->widget(QStringLiteral("grad%1%2").arg(target).arg(s)),
-                "border-radius: 3px; border: 1px solid black; "
+                "border-radius: 3px; border: 1px solid black; font: 8pt 'MS Shell Dlg 2'; "
                     + backgroundPiece(sample, s, QStringLiteral(".5")));
     }
     // The whole board and the game's colouring follow a dragged stop only once it is let go.
