@@ -3,15 +3,7 @@
 // Seams between the parts of Color Madness while they are being built: each of these is replaced
 // by its real body in the file of its own subsystem.
 
-void lexoria::grad(int) { }
-
-void lexoria::gradMain(int) { }
-
 void lexoria::bgColorLoops() { }
-
-void lexoria::bgColorLoops2() { }
-
-void lexoria::bgColorLoops5() { }
 
 void lexoria::allRise() { }
 

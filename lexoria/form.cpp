@@ -13,6 +13,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QTabWidget>
 #include <QTableWidget>
 
@@ -68,6 +69,8 @@ QWidget *makeWidget(Kind kind, QWidget *parent)
         return new QTabWidget(parent);
     case FontComboBox:
         return new QFontComboBox(parent);
+    case Slider:
+        return new QSlider(Qt::Horizontal, parent);
     case Widget:
         break;
     }
@@ -111,6 +114,9 @@ void applyRow(QWidget *widget, const WidgetRow &row)
     } else if (auto *fonts = qobject_cast<QFontComboBox *>(widget)) {
         fonts->setEditable(false);
         fonts->setMaxVisibleItems(15);
+    } else if (auto *slider = qobject_cast<QSlider *>(widget)) {
+        // Keys belong to the game, never to a slider.
+        slider->setFocusPolicy(Qt::NoFocus);
     } else if (auto *table = qobject_cast<QTableWidget *>(widget)) {
         table->setColumnCount(2);
         table->setRowCount(100);
@@ -262,6 +268,7 @@ void lexoria::buildTable(QWidget *central)
         const WidgetRow *rows;
         std::size_t count;
     };
+    std::size_t gradientRowCount = 0;
     const Table tables[] = {
         {mainFormRows, mainFormRowCount},
         {aidFormRows, aidFormRowCount},
@@ -270,6 +277,8 @@ void lexoria::buildTable(QWidget *central)
         {demoFormRows, demoFormRowCount},
         {effectsFormRows, effectsFormRowCount},
         {progressFormRows, progressFormRowCount},
+        // Gradients
+        {gradientFormRows(&gradientRowCount), gradientRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

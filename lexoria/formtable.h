@@ -18,6 +18,7 @@ enum Kind {
     Widget,
     TabWidget, // rows whose parent is a tab widget become its pages, titled by their text
     FontComboBox,
+    Slider, // horizontal; the code sets its range
 };
 
 enum Flag {
@@ -67,6 +68,10 @@ extern const std::size_t demoFormRowCount;
 // The "Key located effects" panel and the gifs that can be laid on the keys.
 extern const WidgetRow effectsFormRows[];
 extern const std::size_t effectsFormRowCount;
+
+// The gradients of the Color Madness targets: their controls and sample keys. Made on first
+// use, since each target's controls follow one pattern.
+const WidgetRow *gradientFormRows(std::size_t *count);
 
 } // namespace formtable
 

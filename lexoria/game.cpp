@@ -548,6 +548,8 @@ void lexoria::timerEvent(QTimerEvent *event)
     }
     if (fades.fadeExampleTimerId != 0 && event->timerId() == fades.fadeExampleTimerId)
         fadeOutExample();
+    if (pulsate.pulsateTimerId != 0 && event->timerId() == pulsate.pulsateTimerId)
+        pulsateTick();
 }
 
 // At Start the comment goes by the forward position, which clears has just put at 0, so

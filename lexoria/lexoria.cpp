@@ -138,6 +138,7 @@ lexoria::lexoria(QWidget *parent)
 
     setUpAids();
     setUpSound();
+    setUpGradients();
 
     restyle(
         ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));

@@ -273,7 +273,40 @@ public:
     void newColor26(const QColor &color);
     void ako30(const QColor &color);
     void newColor30(const QColor &color);
+    // Gradients: the controls of a target's panel (target 1..8, 27)
+    void slider_function(int target, int value);
+    void swapFlag_function(int target);
+    void swapGradient_function(int target);
+    void chooseShape(int target, int shape);
+    void shapeThumbnailClicked();
+    void gamePlayCb_function();
+    void startPulsate();
+    void stopPulsate();
 
+private:
+    // The tests stand in for the colour pickers, which write the targets' colours.
+    friend class tst_Gradients;
+    void setUpGradients();
+    void rebuildSelectedSides(int target, int shape);
+    void applyLineHighlight();
+    void gamePlayFields();
+    void restyleRestingBoard();
+    void restyleSampleFace(int sample);
+    void restyleSampleEnglish(int sample);
+    void restyleSampleRussian(int sample);
+    void sampleByPaintFlags();
+    void pulsateTick();
+    bool radioChecked(const char *name) const;
+
+    // Animate Gradient swings the game play stop to and fro by the float steps it always took.
+    struct Pulsate
+    {
+        int pulsateTimerId = 0;
+        float pulsateStop = 0.0f;
+        bool pulsateFalling = false;
+    } pulsate;
+
+public:
 public slots:
     // The history of past games
     void showProgress();

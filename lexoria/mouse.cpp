@@ -170,6 +170,8 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{"tnSheep"}, [](lexoria &w) { w.movie(6); }},
         {{"tnMarbleTransparent"}, [](lexoria &w) { w.movie(7); }},
         {{"tnSnowFall"}, [](lexoria &w) { w.movie(8); }},
+        // Gradients: the shape thumbnails of every target
+        {{}, [](lexoria &w) { w.shapeThumbnailClicked(); }},
     };
     *count = std::size(rows);
     return rows;

@@ -137,7 +137,7 @@ constexpr Place shadowsOpens[] = {{"frameShadows", 0, 0}};
 constexpr Place audioOpens[] = {{"frameAudio", 0, 0}, {"openAudio", 334, 122}};
 constexpr Place audioParks[] = {{"openAudio", 1500, 300}, {"frameAudio", 1500, 405}};
 constexpr Place gamePlayOpens[] = {{"frameGamePlayS", 0, 0}, {"frameGamePlayS_2", 731, 0},
-    {"frameGamePlayCM", 86, 352}, {"swapGradient27", 572, 456}};
+    {"frameGamePlayCM", 86, 352}, {"frameWallpaper_2", 86, 392}, {"swapGradient27", 572, 456}};
 constexpr const char *gamePlaySpin[] = {"spinBox27"};
 
 constexpr List<Place> none {nullptr, 0};
