@@ -1,4 +1,5 @@
 #include "gamedriver.h"
+#include "lexoria/layerfade.h"
 
 #include <QCheckBox>
 #include <QGraphicsDropShadowEffect>
@@ -20,6 +21,7 @@ private slots:
     void cleanup();
 
     void fadeOutKeyStaysAway();
+    void fadingKeyShowsItsLook();
     void fadeOutInComesBack_data();
     void fadeOutInComesBack();
     void runEndBringsKeysBackInSweep();
@@ -32,7 +34,7 @@ private slots:
 private:
     QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
     QStringList layerNames(int k) const;
-    // The opacity of a layer's fade, or -1 when it has no fade effect.
+    // The opacity a layer is seen at through its fade, or -1 when it has no fade effect.
     qreal opacity(const QString &name) const;
     bool keyFaded(int k) const;
     bool keyBack(int k) const;
@@ -74,8 +76,7 @@ QStringList tst_Fades::layerNames(int k) const
 
 qreal tst_Fades::opacity(const QString &name) const
 {
-    auto *effect = qobject_cast<QGraphicsOpacityEffect *>(widget(name)->graphicsEffect());
-    return effect ? effect->opacity() : -1;
+    return fadelayers::shownOpacity(widget(name));
 }
 
 bool tst_Fades::keyFaded(int k) const
@@ -130,6 +131,30 @@ void tst_Fades::fadeOutKeyStaysAway()
     QTest::qWait(1500);
     QVERIFY(keyFaded(6));
     QVERIFY(!widget("bg45")->graphicsEffect());
+}
+
+// A key pressed in mid-fade shows its pressed look through the fade, blended as Qt's own
+// opacity effect blends it.
+void tst_Fades::fadingKeyShowsItsLook()
+{
+    window->fadeOut(6);
+    QTRY_VERIFY(keyFaded(6));
+    QWidget *face = widget("bg6");
+    const QRect area = face->geometry();
+    auto seen = [&] { return face->parentWidget()->grab(area).toImage(); };
+    for (const QString &name : layerNames(6)) {
+        qobject_cast<QGraphicsOpacityEffect *>(widget(name)->graphicsEffect())->setOpacity(0.5);
+    }
+    const QImage atRest = seen();
+    QTest::keyPress(window.get(), Qt::Key_F); // а
+    const QImage pressed = seen();
+    QVERIFY(pressed != atRest);
+    for (const QString &name : layerNames(6)) {
+        auto *plain = new QGraphicsOpacityEffect(window.get());
+        plain->setOpacity(0.5);
+        widget(name)->setGraphicsEffect(plain);
+    }
+    QCOMPARE(seen(), pressed);
 }
 
 void tst_Fades::fadeOutInComesBack_data()
