@@ -133,28 +133,40 @@ void tst_Fades::fadeOutKeyStaysAway()
     QVERIFY(!widget("bg45")->graphicsEffect());
 }
 
-// A key pressed in mid-fade shows its pressed look through the fade, blended as Qt's own
-// opacity effect blends it.
+// A key in mid-fade looks as its layers would through Qt's own opacity effect, also when it
+// is pressed while it fades.
 void tst_Fades::fadingKeyShowsItsLook()
 {
+    auto seen = [this](int k) {
+        QWidget *face = widget(QString("bg%1").arg(k));
+        return face->parentWidget()->grab(face->geometry()).toImage();
+    };
+    auto throughPlainEffects = [this](int k, qreal alpha) {
+        for (const QString &name : layerNames(k)) {
+            auto *plain = new QGraphicsOpacityEffect(window.get());
+            plain->setOpacity(alpha);
+            widget(name)->setGraphicsEffect(plain);
+        }
+    };
+
+    window->fadeOut(27);
+    QTRY_VERIFY(opacity("bg27") > 0.2 && opacity("bg27") < 0.8);
+    const qreal alpha = opacity("bg27");
+    const QImage midFade = seen(27);
+    throughPlainEffects(27, alpha);
+    QCOMPARE(seen(27), midFade);
+
     window->fadeOut(6);
     QTRY_VERIFY(keyFaded(6));
-    QWidget *face = widget("bg6");
-    const QRect area = face->geometry();
-    auto seen = [&] { return face->parentWidget()->grab(area).toImage(); };
     for (const QString &name : layerNames(6)) {
         qobject_cast<QGraphicsOpacityEffect *>(widget(name)->graphicsEffect())->setOpacity(0.5);
     }
-    const QImage atRest = seen();
+    const QImage atRest = seen(6);
     QTest::keyPress(window.get(), Qt::Key_F); // а
-    const QImage pressed = seen();
+    const QImage pressed = seen(6);
     QVERIFY(pressed != atRest);
-    for (const QString &name : layerNames(6)) {
-        auto *plain = new QGraphicsOpacityEffect(window.get());
-        plain->setOpacity(0.5);
-        widget(name)->setGraphicsEffect(plain);
-    }
-    QCOMPARE(seen(), pressed);
+    throughPlainEffects(6, 0.5);
+    QCOMPARE(seen(6), pressed);
 }
 
 void tst_Fades::fadeOutInComesBack_data()
