@@ -1,119 +1,12 @@
+#include "bench/framepacing.h"
 #include "lexoria/lexoria.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QElapsedTimer>
-#include <QTimer>
-#include <QtTest>
 
-#include <time.h>
-
-#include <algorithm>
 #include <memory>
 #include <vector>
 
-namespace {
-
-qint64 threadCpuNs()
-{
-    timespec t;
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
-    return qint64(t.tv_sec) * 1000000000 + t.tv_nsec;
-}
-
-bool shortRun()
-{
-    return qEnvironmentVariableIntValue("VORTIC_BENCH_SHORT") == 1;
-}
-
-// Times every repaint of the main window, which the toolkit does in one pass per update
-// request.
-class FrameClockApplication : public QApplication
-{
-public:
-    using QApplication::QApplication;
-
-    QWidget *watched = nullptr;
-    std::vector<qint64> paintNs;
-
-    bool notify(QObject *receiver, QEvent *event) override
-    {
-        if (receiver != watched || event->type() != QEvent::UpdateRequest)
-            return QApplication::notify(receiver, event);
-        QElapsedTimer timer;
-        timer.start();
-        const bool handled = QApplication::notify(receiver, event);
-        paintNs.push_back(timer.nsecsElapsed());
-        return handled;
-    }
-};
-
-FrameClockApplication *frameClock()
-{
-    return static_cast<FrameClockApplication *>(qApp);
-}
-
-double percentile(std::vector<qint64> values, double p)
-{
-    if (values.empty())
-        return 0;
-    std::sort(values.begin(), values.end());
-    return values[std::min(values.size() - 1, std::size_t(p * values.size()))] / 1e6;
-}
-
-// The time between two shots of a zero timer is how long the event loop was kept from the
-// player; it is taken in wall time and in this thread's own running time, since the cores
-// are shared with other programs.
-void measurePacing(int ms)
-{
-    frameClock()->paintNs.clear();
-    std::vector<qint64> gaps;
-    std::vector<qint64> busy;
-    QElapsedTimer clock;
-    clock.start();
-    qint64 last = 0;
-    qint64 lastCpu = threadCpuNs();
-    QTimer idle;
-    idle.setInterval(0);
-    QObject::connect(&idle, &QTimer::timeout, [&] {
-        const qint64 now = clock.nsecsElapsed();
-        const qint64 cpu = threadCpuNs();
-        gaps.push_back(now - last);
-        busy.push_back(cpu - lastCpu);
-        last = now;
-        lastCpu = cpu;
-    });
-    idle.start();
-    QEventLoop loop;
-    QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-    idle.stop();
-
-    constexpr qint64 frameNs = 16700000;
-    auto over = [](const std::vector<qint64> &v) {
-        return std::count_if(v.begin(), v.end(), [](qint64 g) { return g > frameNs; });
-    };
-    const std::vector<qint64> &paints = frameClock()->paintNs;
-    qInfo("longest gap %.2f ms wall (%ld over 16.7 ms), %.2f ms own running (%ld over); "
-          "%zu frames, paint median %.2f ms, longest %.2f ms",
-        percentile(gaps, 1.0), long(over(gaps)), percentile(busy, 1.0), long(over(busy)),
-        paints.size(), percentile(paints, 0.5), percentile(paints, 1.0));
-    QVERIFY(!paints.empty());
-    QTest::setBenchmarkResult(percentile(gaps, 1.0) * 1e6, QTest::WalltimeNanoseconds);
-}
-
-// Runs the loop until the main window has painted once more.
-bool waitForFrame()
-{
-    const std::size_t before = frameClock()->paintNs.size();
-    QElapsedTimer guard;
-    guard.start();
-    while (frameClock()->paintNs.size() == before && guard.elapsed() < 10000)
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-    return frameClock()->paintNs.size() != before;
-}
-
-} // namespace
+using namespace framepacing;
 
 class bench_Fades : public QObject
 {
@@ -152,7 +45,9 @@ void bench_Fades::cleanup()
 void bench_Fades::fadeAllPacing()
 {
     window->fadeAll();
-    measurePacing(shortRun() ? 2600 : 6600);
+    const Pacing pacing = measurePacing(shortRun() ? 2600 : 6600);
+    QVERIFY(pacing.frames > 0);
+    report(pacing);
 }
 
 // The 47 character keys, faded away beforehand, come back in the sweep of an Everything game.
@@ -162,7 +57,9 @@ void bench_Fades::allFadeInPacing()
         window->fadeOut(k);
     QTest::qWait(1200);
     window->allFadeIn();
-    measurePacing(shortRun() ? 2200 : 5200);
+    const Pacing pacing = measurePacing(shortRun() ? 2200 : 5200);
+    QVERIFY(pacing.frames > 0);
+    report(pacing);
 }
 
 void bench_Fades::keyPressAfterFades_data()

@@ -3,13 +3,12 @@
 #include "lexoria/fadetables.h"
 #include "lexoria/form.h"
 #include "lexoria/keycatalogue.h"
+#include "lexoria/layerfade.h"
 
 #include <QCheckBox>
 #include <QGraphicsDropShadowEffect>
-#include <QGraphicsOpacityEffect>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPropertyAnimation>
 #include <QRadioButton>
 #include <QTimer>
 
@@ -87,29 +86,7 @@ QList<QWidget *> lexoria::fadeLayers(int N) const
 
 void lexoria::fadeLabels(const QList<QWidget *> &layers, qreal from, qreal to, int ms)
 {
-    QList<QPropertyAnimation *> animations;
-    QList<QGraphicsOpacityEffect *> opacities;
-    for (int i = 0; i < layers.size(); ++i) {
-        auto *opacity = new QGraphicsOpacityEffect(this);
-        auto *animation = new QPropertyAnimation(opacity, "opacity", this);
-        animation->setDuration(ms);
-        animation->setStartValue(from);
-        animation->setEndValue(to);
-        animation->setEasingCurve(QEasingCurve::InCirc);
-        if (to >= 1.0) {
-            // A layer back at full opacity looks the same without its effect, but an enabled
-            // effect still renders it through an offscreen pixmap on every repaint; a keyboard
-            // after a fade game would draw hundreds of them for each key press.
-            connect(animation, &QAbstractAnimation::finished, opacity,
-                [opacity] { opacity->setEnabled(false); });
-        }
-        animations.append(animation);
-        opacities.append(opacity);
-    }
-    for (QPropertyAnimation *animation : qAsConst(animations))
-        animation->start(QAbstractAnimation::DeleteWhenStopped);
-    for (int i = 0; i < layers.size(); ++i)
-        layers[i]->setGraphicsEffect(opacities[i]);
+    (new fadelayers::KeyFade(layers, from, to, ms, this))->start();
 }
 
 void lexoria::fadeOut(int N)

@@ -1,4 +1,5 @@
 #include "gamedriver.h"
+#include "lexoria/layerfade.h"
 
 #include <QCheckBox>
 #include <QGraphicsDropShadowEffect>
@@ -20,6 +21,7 @@ private slots:
     void cleanup();
 
     void fadeOutKeyStaysAway();
+    void fadingKeyShowsItsLook();
     void fadeOutInComesBack_data();
     void fadeOutInComesBack();
     void runEndBringsKeysBackInSweep();
@@ -32,7 +34,7 @@ private slots:
 private:
     QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
     QStringList layerNames(int k) const;
-    // The opacity of a layer's fade, or -1 when it has no fade effect.
+    // The opacity a layer is seen at through its fade, or -1 when it has no fade effect.
     qreal opacity(const QString &name) const;
     bool keyFaded(int k) const;
     bool keyBack(int k) const;
@@ -74,8 +76,7 @@ QStringList tst_Fades::layerNames(int k) const
 
 qreal tst_Fades::opacity(const QString &name) const
 {
-    auto *effect = qobject_cast<QGraphicsOpacityEffect *>(widget(name)->graphicsEffect());
-    return effect ? effect->opacity() : -1;
+    return fadelayers::shownOpacity(widget(name));
 }
 
 bool tst_Fades::keyFaded(int k) const
@@ -130,6 +131,42 @@ void tst_Fades::fadeOutKeyStaysAway()
     QTest::qWait(1500);
     QVERIFY(keyFaded(6));
     QVERIFY(!widget("bg45")->graphicsEffect());
+}
+
+// A key in mid-fade looks as its layers would through Qt's own opacity effect, also when it
+// is pressed while it fades.
+void tst_Fades::fadingKeyShowsItsLook()
+{
+    auto seen = [this](int k) {
+        QWidget *face = widget(QString("bg%1").arg(k));
+        return face->parentWidget()->grab(face->geometry()).toImage();
+    };
+    auto throughPlainEffects = [this](int k, qreal alpha) {
+        for (const QString &name : layerNames(k)) {
+            auto *plain = new QGraphicsOpacityEffect(window.get());
+            plain->setOpacity(alpha);
+            widget(name)->setGraphicsEffect(plain);
+        }
+    };
+
+    window->fadeOut(27);
+    QTRY_VERIFY(opacity("bg27") > 0.2 && opacity("bg27") < 0.8);
+    const qreal alpha = opacity("bg27");
+    const QImage midFade = seen(27);
+    throughPlainEffects(27, alpha);
+    QCOMPARE(seen(27), midFade);
+
+    window->fadeOut(6);
+    QTRY_VERIFY(keyFaded(6));
+    for (const QString &name : layerNames(6)) {
+        qobject_cast<QGraphicsOpacityEffect *>(widget(name)->graphicsEffect())->setOpacity(0.5);
+    }
+    const QImage atRest = seen(6);
+    QTest::keyPress(window.get(), Qt::Key_F); // а
+    const QImage pressed = seen(6);
+    QVERIFY(pressed != atRest);
+    throughPlainEffects(6, 0.5);
+    QCOMPARE(seen(6), pressed);
 }
 
 void tst_Fades::fadeOutInComesBack_data()
