@@ -248,8 +248,6 @@ void lexoria::setKeyShape(bool circle)
         restyle(label, cover);
         reshape(label);
     }
-    for (int k = 0; k < characterKeyCount; ++k)
-        keyShields[k]->setGeometry(keyBgLabels[k]->geometry());
     for (QLabel *cell : qAsConst(barBgLabels))
         restyle(cell, pieces.barRadiusStyle + pieces.keysBgStyle);
     if (circle)
@@ -274,9 +272,18 @@ void lexoria::setKeyShape(bool circle)
         place(std::begin(circleControls), std::end(circleControls));
         write(std::begin(circleCaptions), std::end(circleCaptions));
     } else {
+        for (const keycatalogue::ControlKey &key : controlKeys) {
+            const QRect home(key.x, key.y, key.w, key.h);
+            for (const char *layer : {"label", "bg", "img"})
+                ui->widget(QLatin1String(layer) + QLatin1String(key.suffix))->setGeometry(home);
+            displayNoneLabels[key.number - 1]->setGeometry(home);
+        }
         place(std::begin(normalControls), std::end(normalControls));
         write(std::begin(normalCaptions), std::end(normalCaptions));
     }
+    // A shield covers its face exactly, the wide key too.
+    for (int k = 0; k < characterKeyCount; ++k)
+        keyShields[k]->setGeometry(keyBgLabels[k]->geometry());
     restyle(ui->aKeysMap5,
         (circle ? QStringLiteral("border-radius: 31px;") : QStringLiteral("border-radius: 10px;"))
             + pieces.keysBgStyle + pieces.keysBorderStyle);

@@ -123,8 +123,8 @@ void tst_KeyShape::circleAndBack()
     for (const QString &name : controls)
         before[name] = rect(name);
     for (int k = 1; k <= keycatalogue::characterKeyCount; ++k) {
-        for (const QString &layer : {"bg%1", "shield%1", "displayNone%1"})
-            before[layer.arg(k)] = rect(layer.arg(k));
+        for (const char *layer : {"bg%1", "shield%1", "displayNone%1"})
+            before[QString(layer).arg(k)] = rect(QString(layer).arg(k));
     }
 
     setShape(1);

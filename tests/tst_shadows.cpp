@@ -357,8 +357,7 @@ void tst_Shadows::themeSetsEveryGroupAndClearTurnsThemOff()
     QCOMPARE(game->style("yourEntryBg"), QString("background-color: #00d3d3;"));
 
     window->shadowThClear();
-    for (const QString &name :
-        {"r6_3", "bg1", "bg2", "r34bg", "r1", "r34_2", "leMatch", "leUserBg"})
+    for (const char *name : {"r6_3", "bg1", "bg2", "r34bg", "r1", "r34_2", "leMatch", "leUserBg"})
         QCOMPARE(seen(name), QString("none"));
     for (const char *name : {"textShadowEnglish", "shadowKeys", "tsGamePlayBg_2"})
         QVERIFY(!box(name)->isChecked());
