@@ -1,5 +1,6 @@
 #include "lexoria/lexoria.h"
 
+#include "lexoria/cachedshadow.h"
 #include "lexoria/form.h"
 #include "lexoria/keycatalogue.h"
 #include "lexoria/restyle.h"
@@ -187,7 +188,7 @@ void lexoria::castShadow(QWidget *widget, const QColor &color, const QPointF &of
     auto *shadow = qobject_cast<QGraphicsDropShadowEffect *>(widget->graphicsEffect());
     const bool fresh = !shadow;
     if (fresh)
-        shadow = new QGraphicsDropShadowEffect(this);
+        shadow = new shading::CachedShadow(widget);
     shadow->setOffset(offset);
     shadow->setColor(color);
     shadow->setEnabled(color.alpha() != 0);
