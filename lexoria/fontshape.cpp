@@ -218,6 +218,14 @@ void lexoria::restyleFontSamples(int kind)
     }
 }
 
+void lexoria::restyleFaceSamples()
+{
+    for (const FaceSample &sample : faceSamples) {
+        if (QWidget *widget = ui->widget(QLatin1String(sample.name)))
+            restyle(widget, pieces.demoRadiusStyle + pieces.*sample.bg + pieces.*sample.border);
+    }
+}
+
 void lexoria::makeCircle(int)
 {
     setKeyShape(ui->find<QSlider>(QStringLiteral("sliderKeyShape"))->sliderPosition() == 1);
@@ -313,10 +321,7 @@ void lexoria::setKeyShape(bool circle)
     restyle(ui->widget(QStringLiteral("leMatchBg")), field);
     restyle(ui->widget(QStringLiteral("leUserBg")), field);
 
-    for (const FaceSample &sample : faceSamples) {
-        if (QWidget *widget = ui->widget(QLatin1String(sample.name)))
-            restyle(widget, pieces.demoRadiusStyle + pieces.*sample.bg + pieces.*sample.border);
-    }
+    restyleFaceSamples();
     set_dem_StyleSheet();
     allChangeColorBack();
     for (int i = characterKeyCount; i < paintKeyCount; ++i) {

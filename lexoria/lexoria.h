@@ -406,6 +406,7 @@ private:
     void applyThemePieces(int theme);
     void setUpFontsAndShape();
     void restyleFontSamples(int kind);
+    void restyleFaceSamples();
     void setKeyShape(bool circle);
 
     void showDisplayMark(const char *mark);

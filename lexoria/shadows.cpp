@@ -363,6 +363,9 @@ void lexoria::shadowTh(int number)
         restyle(map, transparentText + pieces.upperColorStyle + pieces.upperFontStyle);
     if (QWidget *map = ui->widget(QStringLiteral("aKeysMap3")))
         restyle(map, transparentText + pieces.lowerColorStyle + pieces.lowerFontStyle);
+    restyleFaceSamples();
+    restyleFontSamples(EnglishFont);
+    restyleFontSamples(UpperFont);
     bgColorLoops();
     restyle(ui->underscore_right, english);
     restyle(ui->underscore_left, english);
