@@ -18,13 +18,3 @@ void lexoria::fillRainbowLow() { }
 void lexoria::fillRainbowBg() { }
 
 void lexoria::fillRainbowBorder() { }
-
-void lexoria::shadowThClear() { }
-
-void lexoria::akoKeysEng_26(const QColor &) { }
-
-void lexoria::newColor26(const QColor &) { }
-
-void lexoria::ako30(const QColor &) { }
-
-void lexoria::newColor30(const QColor &) { }

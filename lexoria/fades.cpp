@@ -4,13 +4,15 @@
 #include "lexoria/form.h"
 #include "lexoria/keycatalogue.h"
 #include "lexoria/layerfade.h"
+#include "lexoria/shadowtables.h"
 
 #include <QCheckBox>
-#include <QGraphicsDropShadowEffect>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTimer>
+
+#include <iterator>
 
 using namespace fadetables;
 using keycatalogue::CharacterKey;
@@ -108,66 +110,23 @@ void lexoria::fadeIn(int N)
     }
 }
 
+// A returning key takes the shadows its groups give it, as if the shadows panel had just
+// been used: the same colours, corners and tricks.
 void lexoria::fadeInShadow(int N)
 {
-    auto distance = [](const ShadowGroup &g) { return 2 + g.slider; };
-    auto plainOffset = [&](const ShadowGroup &g) {
-        const int d = distance(g);
-        switch (g.corner) {
-        case TopRight:
-            return QPointF(d, -d);
-        case TopLeft:
-            return QPointF(-d, -d);
-        case BottomLeft:
-            return QPointF(-d, d);
-        case BottomRight:
-            break;
-        }
-        return QPointF(d, d);
-    };
-    // The tricks turn a part of the faces' shadows to another corner than the rest.
-    auto trickOffset = [&](const ShadowGroup &g, int position) {
-        const int d = distance(g);
-        const bool first = position == 1;
-        switch (g.corner) {
-        case TopRight:
-            return first ? QPointF(-d, -d) : QPointF(d, d);
-        case TopLeft:
-            return first ? QPointF(d, -d) : QPointF(-d, d);
-        case BottomLeft:
-            return first ? QPointF(d, d) : QPointF(d, -d);
-        case BottomRight:
-            break;
-        }
-        return first ? QPointF(-d, d) : QPointF(-d, -d);
-    };
-    auto castShadow = [this](QWidget *layer, const ShadowGroup &g, const QPointF &offset) {
-        auto *shadow = new QGraphicsDropShadowEffect(this);
-        shadow->setOffset(offset);
-        shadow->setColor(g.on ? QColor(g.color) : QColor(Qt::transparent));
-        // An invisible shadow leaves the layer looking as it would without one, while an
-        // enabled effect blurs a pixmap of it at every repaint and widens every update.
-        shadow->setEnabled(shadow->color().alpha() != 0);
-        layer->setGraphicsEffect(shadow);
-    };
-
-    const bool odd = oddFace(N);
-    const ShadowGroup &face = odd ? shadows.odd : shadows.even;
     if (N > characterKeyCount) {
         const int i = controlIndex(N);
         if (i < 0)
             return;
-        castShadow(keyEnglishLabels[i], shadows.lower, plainOffset(shadows.lower));
-        castShadow(keyBgLabels[i], face, plainOffset(face));
+        castShadowOfGroup(keyEnglishLabels[i], shadowtables::English);
+        castShadowOfGroup(keyBgLabels[i], faceGroup(keyBgLabels[i]));
         return;
     }
     const CharacterKey &key = characterKey(N);
-    castShadow(keyLetterLabels[key.lower - 1], shadows.lower, plainOffset(shadows.lower));
-    castShadow(keyLetterLabels[key.upper - 1], shadows.upper, plainOffset(shadows.upper));
-    castShadow(keyEnglishLabels[N - 1], shadows.english, plainOffset(shadows.english));
-    const int tricks = odd ? shadows.sliderTricks : shadows.sliderTricks_2;
-    const bool turned = trickFace(N) && (tricks == 1 || tricks == 2);
-    castShadow(keyBgLabels[N - 1], face, turned ? trickOffset(face, tricks) : plainOffset(face));
+    castShadowOfGroup(keyLetterLabels[key.lower - 1], shadowtables::Lower);
+    castShadowOfGroup(keyLetterLabels[key.upper - 1], shadowtables::Upper);
+    castShadowOfGroup(keyEnglishLabels[N - 1], shadowtables::English);
+    castShadowOfGroup(keyBgLabels[N - 1], faceGroup(keyBgLabels[N - 1]));
 }
 
 void lexoria::laterFade(int N, int ms, bool in)

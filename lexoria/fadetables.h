@@ -3,10 +3,8 @@
 
 #include "lexoria/effecttables.h"
 
-#include <iterator>
-
 // The fades as data: the order in which the keys of the keyboard fade back, the rows that say
-// which wave ends which run of letters, and the shadow groups a returning key reads.
+// which wave ends which run of letters.
 // A fade key number N is a character key 1..47 or one of the seven control keys 48..54.
 namespace fadetables {
 
@@ -143,33 +141,6 @@ constexpr Row finaleRows[] = {
     {94, Forward, Everything, Wave::FadeAll, 0, {}, false},
     {94, Forward, AnyGroup, Wave::Keys, finaleFadeOutMs, span(numberSweep), false},
 };
-
-// The face of a key casts its shadow with the Odd or the Even group; some of each turn their
-// shadow the other way when the group's tricks slider is moved.
-constexpr bool inList(const int *keys, int count, int k)
-{
-    for (int i = 0; i < count; ++i) {
-        if (keys[i] == k)
-            return true;
-    }
-    return false;
-}
-constexpr int oddFaces[] = {1, 4, 6, 7, 8, 10, 11, 12, 19, 27, 28, 29, 30, 31, 32, 33, 34, 35, 36,
-    37, 38, 39, 43, 44, BackSpace};
-constexpr int oddTricks[] = {6, 8, 11, 19, 27, 29, 31, 33, 35, 37, 39, 43};
-constexpr int evenTricks[] = {9, 14, 16, 18, 22, 23, 24, 25, 41, 45, 47};
-
-constexpr bool oddFace(int N)
-{
-    return inList(oddFaces, int(std::size(oddFaces)), N);
-}
-
-constexpr bool trickFace(int N)
-{
-    return inList(oddFaces, int(std::size(oddFaces)), N)
-        ? inList(oddTricks, int(std::size(oddTricks)), N)
-        : inList(evenTricks, int(std::size(evenTricks)), N);
-}
 
 } // namespace fadetables
 

@@ -115,7 +115,17 @@ void applyRow(QWidget *widget, const WidgetRow &row)
         fonts->setEditable(false);
         fonts->setMaxVisibleItems(15);
     } else if (auto *slider = qobject_cast<QSlider *>(widget)) {
-        // Keys belong to the game, never to a slider.
+        // Keys belong to the game, never to a slider. A row may give the range and start as
+        // "minimum maximum value"; without it the code that owns the slider sets them.
+        const QStringList range = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        if (row.h > row.w)
+            slider->setOrientation(Qt::Vertical);
+        if (range.size() == 3) {
+            slider->setRange(range.value(0).toInt(), range.value(1).toInt());
+            slider->setValue(range.value(2).toInt());
+            slider->setPageStep(1);
+            slider->setTickPosition(QSlider::TicksBelow);
+        }
         slider->setFocusPolicy(Qt::NoFocus);
     } else if (auto *table = qobject_cast<QTableWidget *>(widget)) {
         table->setColumnCount(2);
@@ -279,6 +289,8 @@ void lexoria::buildTable(QWidget *central)
         {progressFormRows, progressFormRowCount},
         // Gradients
         {gradientFormRows(&gradientRowCount), gradientRowCount},
+        // Shadows
+        {shadowFormRows(), shadowFormRowCount()},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

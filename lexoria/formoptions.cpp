@@ -118,7 +118,7 @@ const WidgetRow optionsFormRows[] = {
         "QFrame#frameShadows{ background-color: white; }", "", Hidden},
     {Label, "headingShadows", "frameShadows", 394, 4, 278, 50, "",
         "image: url(:/new/prefix1/Shadows2.png);", "", 0},
-    {Label, "captionShadows", "frameShadows", 10, 60, 500, 18,
+    {Label, "captionShadows", "frameShadows", 90, 62, 300, 18,
         "Shadows of the texts and of the key faces", panelCaption, "", 0},
 
     {Frame, "frameAudio", nullptr, 1500, 405, 426, 262, "",

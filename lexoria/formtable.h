@@ -18,7 +18,7 @@ enum Kind {
     Widget,
     TabWidget, // rows whose parent is a tab widget become its pages, titled by their text
     FontComboBox,
-    Slider, // horizontal; the code sets its range
+    Slider, // upright when taller than wide; its text may hold "minimum maximum value"
 };
 
 enum Flag {
@@ -68,6 +68,10 @@ extern const std::size_t demoFormRowCount;
 // The "Key located effects" panel and the gifs that can be laid on the keys.
 extern const WidgetRow effectsFormRows[];
 extern const std::size_t effectsFormRowCount;
+// Shadows: the groups' controls, laid out from the group table, and the panels of fonts and
+// key shape.
+const WidgetRow *shadowFormRows();
+std::size_t shadowFormRowCount();
 
 // The gradients of the Color Madness targets: their controls and sample keys. Made on first
 // use, since each target's controls follow one pattern.

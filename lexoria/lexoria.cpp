@@ -139,6 +139,8 @@ lexoria::lexoria(QWidget *parent)
     setUpAids();
     setUpSound();
     setUpGradients();
+    setUpShadows();
+    setUpFontsAndShape();
 
     restyle(
         ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));

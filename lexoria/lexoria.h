@@ -19,6 +19,7 @@
 #include <memory>
 
 class QColor;
+class QPointF;
 class QLabel;
 class QPropertyAnimation;
 class QRadioButton;
@@ -282,6 +283,17 @@ public:
     void gamePlayCb_function();
     void startPulsate();
     void stopPulsate();
+    // Shadows (group: shadowtables::Group, theme 1..4)
+    void shadowGroup_function(int group);
+    void shadowTh(int theme);
+    void matchThisCb_function();
+    void yourEntryCb_function();
+    void shadowCornerClicked();
+    // Fonts (kind: English, Russian upper case, Russian lower case) and the key shape
+    enum FontKind { EnglishFont, UpperFont, LowerFont };
+    void newFont(int kind);
+    void makeCircle(int);
+    void styleSheetExtended();
 
 private:
     // The tests stand in for the colour pickers, which write the targets' colours.
@@ -383,6 +395,19 @@ private:
     bool shadowsShown() const;
     void setShadowsShown(bool shown);
     bool keyHasDoneLetter(int k) const;
+
+    void setUpShadows();
+    QList<QWidget *> shadedWidgets(int group) const;
+    QPointF shadowOffset(int group, QWidget *widget) const;
+    void castShadow(QWidget *widget, const QColor &color, const QPointF &offset);
+    void castShadowOfGroup(QWidget *widget, int group);
+    int faceGroup(const QWidget *face) const;
+    void recolourShadows(int first, int last, const QColor &color, bool reapply);
+    void applyThemePieces(int theme);
+    void setUpFontsAndShape();
+    void restyleFontSamples(int kind);
+    void restyleFaceSamples();
+    void setKeyShape(bool circle);
 
     void showDisplayMark(const char *mark);
     void showLettersOnKeys(bool russian, bool english);
@@ -557,25 +582,11 @@ private:
         bool strict = false;
     } progress;
 
-    // The shadow groups a returning key reads; the shadows panel sets them. A slider position
-    // 0..4 gives a distance of 2..6 pixels, the corner is where the shadow falls.
-    enum ShadowCorner { TopRight, TopLeft, BottomRight, BottomLeft };
-    struct ShadowGroup
-    {
-        bool on = false;
-        int slider = 2;
-        ShadowCorner corner = BottomRight;
-        QString color = QStringLiteral("#484848");
-    };
+    // The colour of each shadow group by shadowtables::Group; its check box, slider and dial
+    // hold the rest.
     struct Shadows
     {
-        ShadowGroup english;
-        ShadowGroup upper;
-        ShadowGroup lower;
-        ShadowGroup odd;
-        ShadowGroup even;
-        int sliderTricks = 0;
-        int sliderTricks_2 = 0;
+        std::array<QString, 13> colors;
     } shadows;
 
     struct Fades

@@ -172,6 +172,12 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{"tnSnowFall"}, [](lexoria &w) { w.movie(8); }},
         // Gradients: the shape thumbnails of every target
         {{}, [](lexoria &w) { w.shapeThumbnailClicked(); }},
+        // Shadows
+        {{"shadowTheme1"}, [](lexoria &w) { w.shadowTh(1); }},
+        {{"shadowTheme2"}, [](lexoria &w) { w.shadowTh(2); }},
+        {{"shadowTheme3"}, [](lexoria &w) { w.shadowTh(3); }},
+        {{"shadowTheme4"}, [](lexoria &w) { w.shadowTh(4); }},
+        {{}, [](lexoria &w) { w.shadowCornerClicked(); }},
     };
     *count = std::size(rows);
     return rows;

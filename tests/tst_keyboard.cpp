@@ -347,9 +347,15 @@ void tst_Keyboard::readingWindowsOpenAndClose_data()
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("closer");
 
-    QTest::newRow("instructions") << "openInstructions" << "instructions" << "mgExitButton";
-    QTest::newRow("self-explore") << "owInstructionsForSE" << "selfExplore" << "seExitbutton";
-    QTest::newRow("about") << "owAboutButton" << "aboutWindow" << "awExitButton";
+    QTest::newRow("instructions") << "openInstructions"
+                                  << "instructions"
+                                  << "mgExitButton";
+    QTest::newRow("self-explore") << "owInstructionsForSE"
+                                  << "selfExplore"
+                                  << "seExitbutton";
+    QTest::newRow("about") << "owAboutButton"
+                           << "aboutWindow"
+                           << "awExitButton";
 }
 
 void tst_Keyboard::readingWindowsOpenAndClose()

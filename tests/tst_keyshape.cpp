@@ -1,0 +1,178 @@
+#include "gamedriver.h"
+
+#include <QFontComboBox>
+#include <QSlider>
+
+#include <memory>
+
+using keycatalogue::keyRect;
+
+class tst_KeyShape : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void fontBoxChangesItsLetters_data();
+    void fontBoxChangesItsLetters();
+    void twoFamiliesAreQuoted();
+    void circleAndBack();
+    void circleKeepsTheGameOnTheBoard();
+
+private:
+    QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
+    QRect rect(const QString &name) const { return widget(name)->geometry(); }
+    QFontComboBox *combo(const QString &name) const
+    {
+        return window->findChild<QFontComboBox *>(name);
+    }
+    // Another family than the one the box shows.
+    QString otherFamily(QFontComboBox *box) const
+    {
+        for (int i = 0; i < box->count(); ++i) {
+            if (box->itemText(i) != box->currentText())
+                return box->itemText(i);
+        }
+        return {};
+    }
+    void setShape(int position)
+    {
+        auto *slider = window->findChild<QSlider *>("sliderKeyShape");
+        slider->setSliderPosition(position);
+    }
+
+    std::unique_ptr<lexoria> window;
+    std::unique_ptr<GameDriver> game;
+};
+
+void tst_KeyShape::init()
+{
+    window = std::make_unique<lexoria>();
+    window->openLexoria();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    game = std::make_unique<GameDriver>(window.get());
+}
+
+void tst_KeyShape::cleanup()
+{
+    game.reset();
+    window.reset();
+}
+
+void tst_KeyShape::fontBoxChangesItsLetters_data()
+{
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QStringList>("changed"); // widget: colour piece before the family
+    QTest::addColumn<QStringList>("unchanged");
+
+    QTest::newRow("English") << "fontComboBoxEnglish"
+                             << QStringList {"r6_3", "labelSpacebar", "underscore_left"}
+                             << QStringList {"r1_2", "r34"};
+    QTest::newRow("Russian upper case")
+        << "fontComboBoxUppercase" << QStringList {"r34_2", "r34", "r94_2"}
+        << QStringList {"r1_2", "r6_3"};
+    QTest::newRow("Russian lower case")
+        << "fontComboBoxLowercase" << QStringList {"r1_2", "r1", "r92"}
+        << QStringList {"r34_2", "r6_3"};
+}
+
+void tst_KeyShape::fontBoxChangesItsLetters()
+{
+    QFETCH(QString, box);
+    QFETCH(QStringList, changed);
+    QFETCH(QStringList, unchanged);
+
+    QMap<QString, QString> before;
+    for (const QString &name : unchanged)
+        before[name] = game->style(name);
+
+    QFontComboBox *fonts = combo(box);
+    const QString family = otherFamily(fonts);
+    QVERIFY(!family.isEmpty());
+    fonts->setCurrentText(family);
+    const QString piece = "font-family: " + family + ";";
+    for (const QString &name : changed) {
+        QVERIFY2(game->style(name).contains(piece), qPrintable(name + ": " + game->style(name)));
+        QVERIFY(game->style(name).contains("color: white;"));
+    }
+    for (const QString &name : unchanged)
+        QCOMPARE(game->style(name), before[name]);
+}
+
+void tst_KeyShape::twoFamiliesAreQuoted()
+{
+    QFontComboBox *fonts = combo("fontComboBoxEnglish");
+    fonts->addItem("Old English Text MT");
+    fonts->setCurrentText("Old English Text MT");
+    QCOMPARE(game->style("r6_3"), QString("font-family: 'Old English Text MT';color: white;"));
+    const QString family = otherFamily(fonts);
+    fonts->setCurrentText(family);
+    QCOMPARE(game->style("r6_3"), "font-family: " + family + ";color: white;");
+}
+
+void tst_KeyShape::circleAndBack()
+{
+    const QStringList controls = {"bgCapsLock", "labelCapsLock", "imgCapsLock", "bgSpacebar",
+        "labelSpacebar", "imgSpacebar", "displayNone54", "bgEnter", "labelEnter", "bgBackSpace",
+        "labelBackSpace", "bgTab", "labelTab", "displayNone49", "bgShiftLeft", "labelShiftLeft",
+        "bgShiftRight", "labelShiftRight", "displayNone53", "bg42", "img42", "r92_2", "r94_2",
+        "aKeysMap5"};
+    QMap<QString, QRect> before;
+    for (const QString &name : controls)
+        before[name] = rect(name);
+    for (int k = 1; k <= keycatalogue::characterKeyCount; ++k) {
+        for (const char *layer : {"bg%1", "shield%1", "displayNone%1"})
+            before[QString(layer).arg(k)] = rect(QString(layer).arg(k));
+    }
+
+    setShape(1);
+    QCOMPARE(rect("bg1"), keyRect(1).adjusted(-4, -4, 4, 4));
+    QCOMPARE(rect("shield1"), rect("bg1"));
+    QCOMPARE(rect("displayNone27"), keyRect(27).adjusted(-4, -4, 4, 4));
+    QCOMPARE(rect("bg42").size(), QSize(62, 62));
+    QCOMPARE(rect("r92_2").size(), QSize(54, 54));
+    QCOMPARE(rect("labelSpacebar"), QRect(545, 632, 62, 62));
+    QCOMPARE(rect("bgEnter"), QRect(948, 510, 62, 62));
+    QCOMPARE(rect("imgTab"), QRect(176, 454, 52, 52));
+    QCOMPARE(rect("aKeysMap5"), QRect(1107, 400, 62, 62));
+    QCOMPARE(game->text("labelSpacebar"), QString("Space"));
+    QCOMPARE(game->text("labelBackSpace"), QString("Back\nspace"));
+    QCOMPARE(game->text("labelCapsLock"), QString("Caps\nLock"));
+    QVERIFY(game->style("bg1").startsWith("border-radius: 31px;"));
+    QVERIFY(game->style("bgTab").startsWith("border-radius: 31px;"));
+    QVERIFY(game->style("r1bg").startsWith("border-radius: 14px;"));
+    QVERIFY(game->style("displayNone1").startsWith("border-radius: 31px;"));
+    QVERIFY(game->style("dem1").startsWith("border-radius: 17px;"));
+    QVERIFY(game->style("leMatchBg").startsWith("border-radius: 30px;"));
+
+    setShape(0);
+    for (auto it = before.cbegin(); it != before.cend(); ++it)
+        QCOMPARE(rect(it.key()), it.value());
+    QCOMPARE(game->text("labelSpacebar"), QString("Spacebar"));
+    QCOMPARE(game->text("labelBackSpace"), QString("Backspace"));
+    QCOMPARE(game->text("labelCapsLock"), QString("Caps Lock"));
+    QCOMPARE(game->text("labelEnter"), QString("Enter"));
+    QVERIFY(game->style("bg1").startsWith("border-radius: 10px;"));
+    QVERIFY(game->style("r1bg").startsWith("border-radius: 10px;"));
+    QVERIFY(game->style("leMatchBg").startsWith("border-radius:  10px; "));
+}
+
+void tst_KeyShape::circleKeepsTheGameOnTheBoard()
+{
+    game->startGame("pbForwardVarious");
+    game->type(1);
+    game->space();
+    QTRY_COMPARE(game->field("leMatch")->text(), QString("б"));
+    const QString finished = game->style("r1");
+    QVERIFY(!finished.isEmpty());
+    setShape(1);
+    QCOMPARE(game->style("r1"), finished);
+    QVERIFY(game->style("r1bg").startsWith("border-radius: 14px;"));
+    // The letter asked for keeps its place in the field's look.
+    QVERIFY(game->style("leMatch").contains("font-size: 24pt"));
+}
+
+QTEST_MAIN(tst_KeyShape)
+#include "tst_keyshape.moc"
