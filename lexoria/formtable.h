@@ -68,6 +68,9 @@ extern const std::size_t demoFormRowCount;
 // The "Key located effects" panel and the gifs that can be laid on the keys.
 extern const WidgetRow effectsFormRows[];
 extern const std::size_t effectsFormRowCount;
+// The swatches of the colour pickers on the colour tabs and frames.
+extern const WidgetRow pickerFormRows[];
+extern const std::size_t pickerFormRowCount;
 
 // The gradients of the Color Madness targets: their controls and sample keys. Made on first
 // use, since each target's controls follow one pattern.

@@ -19,6 +19,7 @@
 #include <memory>
 
 class QColor;
+class QColorDialog;
 class QLabel;
 class QPropertyAnimation;
 class QRadioButton;
@@ -282,6 +283,40 @@ public:
     void gamePlayCb_function();
     void startPulsate();
     void stopPulsate();
+    // Colour pickers (N 1..30): each is made on its first opening, with its wiring and place.
+    QColorDialog *picker(int N);
+    void closePickers(int except = 0);
+
+private:
+    struct PickerRow;
+    enum class BaseRule { Full, PlainTopOnly, ByShape };
+    // The four colours of one side of a target, wherever the target keeps them.
+    struct ColourSet
+    {
+        QString *color;
+        QString *gradColor;
+        QString *radialColor;
+        QString *radialGradColor;
+    };
+    static const PickerRow &pickerRow(int N);
+    void pickerAcceptedBy(int N);
+    void pickerRejectedBy(int N);
+    void openPickerUnderMouse();
+    void setUpPickerSwatches();
+    void turnPaintOn(bool withBorder);
+    bool radioChecked(const char *name, bool whenMissing) const;
+    QList<ColourSet> selectedSides(int target);
+    bool &gradOpened(int target);
+    void baseColour(int target, const QColor &color, BaseRule rule);
+    void topColour(int target, const QColor &color);
+    void topFromBase(int target, bool radialToo);
+    void restyleKeysAtRest();
+    void restyleSample(int sample, int parts);
+    void stepListA();
+    void stepListB();
+    void textColourOfGamePlay(const QColor &color, const char *lead);
+    std::array<std::unique_ptr<QColorDialog>, 31> colorDialogs;
+    std::array<QColor, 31> savedColors;
 
 private:
     // The tests stand in for the colour pickers, which write the targets' colours.
@@ -352,7 +387,6 @@ private:
     void openPanel(int panel);
     void paintTabs();
     void setNonVitalsVisible(bool visible, bool withMenu = false, bool withColorMadness = false);
-    void closeColourDialogs();
     void connectEffectsPanel();
     void keyLocated(bool random);
     void effectsAtGameStart();

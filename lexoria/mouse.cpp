@@ -172,6 +172,8 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{"tnSnowFall"}, [](lexoria &w) { w.movie(8); }},
         // Gradients: the shape thumbnails of every target
         {{}, [](lexoria &w) { w.shapeThumbnailClicked(); }},
+        // Colour pickers: each swatch opens its own
+        {{}, [](lexoria &w) { w.openPickerUnderMouse(); }},
     };
     *count = std::size(rows);
     return rows;

@@ -1,0 +1,290 @@
+// Clicks go through the platform layer, so that underMouse() holds for the swatch under the
+// pointer, which is how the main window finds the picker to open.
+#define QTEST_QPA_MOUSE_HANDLING
+#include "gamedriver.h"
+
+#include <QColorDialog>
+
+#include <memory>
+
+using keycatalogue::keyOfLetter;
+
+namespace {
+
+const QString T = "background-color: transparent;";
+
+QString englishLabelOf(int n)
+{
+    return QString("r%1_3").arg(keyOfLetter(n));
+}
+
+} // namespace
+
+class tst_Pickers : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void pickersAreMadeAsListed_data();
+    void pickersAreMadeAsListed();
+    void swatchOpensItsPicker();
+    void liveColourReachesTheBoard_data();
+    void liveColourReachesTheBoard();
+    void stateColoursShowWhenTheStateComes();
+    void cancelGivesBackTheOldColour();
+    void cancelOfANeverAcceptedPickerRestores();
+    void okKeepsTheColourAndEndsPainting();
+    void severalOpenAndTheMenuClosesAllButTheLinesGradient();
+    void closingTheWindowClosesEveryPicker();
+
+private:
+    QColorDialog *open(int N)
+    {
+        window->enableColor(N);
+        return window->picker(N);
+    }
+    void clickLabel(const QString &name)
+    {
+        QWidget *label = window->findChild<QWidget *>(name);
+        QTest::mouseMove(label, label->rect().center());
+        QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
+    }
+
+    std::unique_ptr<lexoria> window;
+    std::unique_ptr<GameDriver> game;
+};
+
+void tst_Pickers::init()
+{
+    window = std::make_unique<lexoria>();
+    window->openLexoria();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    QTest::mouseMove(window.get(), QPoint(600, 30));
+    QTest::mouseMove(window.get(), QPoint(601, 30));
+    game = std::make_unique<GameDriver>(window.get());
+}
+
+void tst_Pickers::cleanup()
+{
+    game.reset();
+    window.reset();
+}
+
+void tst_Pickers::pickersAreMadeAsListed_data()
+{
+    QTest::addColumn<int>("picker");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QPoint>("position");
+    QTest::addColumn<bool>("alpha");
+    QTest::addColumn<QColor>("start");
+
+    QTest::newRow("1 English") << 1 << "colorPickerE"
+                               << "English Key" << QPoint(0, 0) << true << QColor(Qt::white);
+    QTest::newRow("2 Russian") << 2 << "colorPickerD"
+                               << "Russian Key" << QPoint(1000, 0) << true << QColor(Qt::white);
+    QTest::newRow("11 finished") << 11 << "colorPickerFBg"
+                                 << "Finished Keys Background" << QPoint(18, 18) << true
+                                 << QColor("#737373");
+    QTest::newRow("12 lines, typo kept")
+        << 12 << "colorPickerKeyboard"
+        << "ImgBack availiable color picker" << QPoint(339, 339) << false << QColor(Qt::white);
+    QTest::newRow("16 highlight") << 16 << "colorPickerHiBg"
+                                  << "Highlight Background" << QPoint(14, 14) << true
+                                  << QColor("gold");
+    QTest::newRow("26 shadows") << 26 << "textShadowColorBox"
+                                << "All Shadow Colors" << QPoint(28, 32) << false
+                                << QColor("#484848");
+}
+
+void tst_Pickers::pickersAreMadeAsListed()
+{
+    QFETCH(int, picker);
+    QFETCH(QString, name);
+    QFETCH(QString, title);
+    QFETCH(QPoint, position);
+    QFETCH(bool, alpha);
+    QFETCH(QColor, start);
+
+    QColorDialog *dialog = open(picker);
+    QVERIFY(dialog->isVisible());
+    QVERIFY(!dialog->parent());
+    QCOMPARE(dialog->objectName(), name);
+    QCOMPARE(dialog->windowTitle(), title);
+    QCOMPARE(dialog->pos(), position);
+    QCOMPARE(dialog->testOption(QColorDialog::ShowAlphaChannel), alpha);
+    QCOMPARE(dialog->currentColor(), start);
+    // Opened, not executed: the main window still takes keys and clicks.
+    QCOMPARE(dialog->windowModality(), Qt::WindowModal);
+}
+
+void tst_Pickers::swatchOpensItsPicker()
+{
+    game->click("options");
+    game->click("menuColorMadness");
+    QWidget *swatch = window->findChild<QWidget *>("colorPickerE");
+    QTRY_VERIFY_WITH_TIMEOUT(swatch->isVisible() && swatch->mapTo(window.get(), QPoint()).y() > 0
+            && swatch->mapTo(window.get(), QPoint()).y() < 695,
+        10000);
+    QVERIFY(!window->findChild<QLabel *>("colorPickerE")->pixmap(Qt::ReturnByValue).isNull());
+    clickLabel("colorPickerE");
+    QVERIFY(window->picker(1)->isVisible());
+    QVERIFY(!window->picker(2)->isVisible());
+}
+
+void tst_Pickers::liveColourReachesTheBoard_data()
+{
+    QTest::addColumn<int>("picker");
+    QTest::addColumn<QColor>("colour");
+    QTest::addColumn<QString>("widget");
+    QTest::addColumn<QString>("style");
+
+    const QString calibri = "font-family: Calibri;";
+    const QString arial = "font-family: Arial Unicode MS;";
+    QTest::newRow("English label") << 1 << QColor(255, 0, 0) << englishLabelOf(1)
+                                   << T + "color: rgba(255, 0, 0, 255 );;" + calibri;
+    QTest::newRow("English label, half transparent")
+        << 1 << QColor(0, 128, 255, 128) << englishLabelOf(40)
+        << T + "color: rgba(0, 128, 255, 128 );;" + calibri;
+    QTest::newRow("underscore") << 1 << QColor(1, 2, 3) << "underscore_left"
+                                << "color: rgba(1, 2, 3, 255 );;" + calibri;
+    QTest::newRow("Russian letter on its key") << 2 << QColor(0, 255, 0) << "r34_2"
+                                               << "color: rgba(0, 255, 0, 255 );;" + arial;
+    QTest::newRow("Russian letter in the bar, half transparent")
+        << 2 << QColor(0, 255, 0, 10) << "r34"
+        << "color: rgba(0, 255, 0, 10 );;" + arial;
+    QTest::newRow("key map") << 1 << QColor(9, 9, 9) << "aKeysMap4"
+                             << T + "color: rgba(9, 9, 9, 255 );;" + calibri;
+    QTest::newRow("finished sample") << 10 << QColor(7, 8, 9) << "dem1"
+                                     << "border-radius: 10px;"
+                                        "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, "
+                                        "y2: 1, stop: 0 rgb(115, 115, 115), stop: .5  rgb(115, "
+                                        "115, 115)); color: rgba(7, 8, 9, 255 ) ; "
+                                        "font-size: 20pt; font-family: 'Arial Unicode MS'; ";
+}
+
+void tst_Pickers::liveColourReachesTheBoard()
+{
+    QFETCH(int, picker);
+    QFETCH(QColor, colour);
+    QFETCH(QString, widget);
+    QFETCH(QString, style);
+
+    open(picker)->setCurrentColor(colour);
+    QCOMPARE(game->style(widget), style);
+}
+
+// The key-press, mouse-over and highlight colours are not on the board until a key is in that
+// state.
+void tst_Pickers::stateColoursShowWhenTheStateComes()
+{
+    open(4)->setCurrentColor(QColor(0, 0, 255, 200));
+    window->picker(4)->accept();
+    QTest::keyPress(window.get(), Qt::Key_F);
+    QCOMPARE(game->style(englishLabelOf(1)), "color: rgba(0, 0, 255, 200 );;font-family: Calibri;");
+    QTest::keyRelease(window.get(), Qt::Key_F);
+
+    open(7)->setCurrentColor(QColor(10, 20, 30));
+    const QString shield = QString("shield%1").arg(keyOfLetter(1));
+    QEvent enter(QEvent::Enter);
+    QApplication::sendEvent(window->findChild<QWidget *>(shield), &enter);
+    QCOMPARE(
+        game->style(englishLabelOf(1)), "color: rgba(10, 20, 30, 255 ) ;font-family: Calibri;");
+
+    open(25)->setCurrentColor(QColor(40, 50, 60));
+    window->picker(25)->accept();
+    QCOMPARE(game->style("goldenHighlight"),
+        "border-radius: 10px;background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: "
+        "0 gold, stop: .5  gold);color: rgba(40, 50, 60, 255 ) ;");
+}
+
+void tst_Pickers::cancelGivesBackTheOldColour()
+{
+    QColorDialog *english = open(1);
+    english->setCurrentColor(QColor(255, 0, 0));
+    english->reject();
+    QCOMPARE(english->currentColor(), QColor(Qt::white));
+    // The live path writes the old colour in its own form; the rest look follows.
+    QCOMPARE(
+        game->style(englishLabelOf(1)), "color: rgba(255, 255, 255, 255 );;font-family: Calibri;");
+    QCOMPARE(
+        game->style("aKeysMap4"), T + "color: rgba(255, 255, 255, 255 );;font-family: Calibri;");
+
+    // A second opening remembers what OK kept.
+    english = open(1);
+    english->setCurrentColor(QColor(0, 0, 255));
+    english->accept();
+    english = open(1);
+    english->setCurrentColor(QColor(0, 255, 0));
+    english->reject();
+    QCOMPARE(game->style(englishLabelOf(1)), "color: rgba(0, 0, 255, 255 );;font-family: Calibri;");
+}
+
+void tst_Pickers::cancelOfANeverAcceptedPickerRestores()
+{
+    const QString wallpaperGrey = " background-color:  #E0E0E0; border:none;";
+    QColorDialog *wallpaper = open(13);
+    wallpaper->setCurrentColor(QColor(1, 2, 3));
+    wallpaper->reject();
+    QCOMPARE(game->style("wallpaper"), wallpaperGrey);
+
+    // Once accepted, Cancel leaves the wallpaper to the colour given back.
+    game->label("wallpaper")->setStyleSheet("background-color: white;");
+    open(13)->accept();
+    open(13)->reject();
+    QCOMPARE(game->style("wallpaper"), QString("background-color: white;"));
+}
+
+void tst_Pickers::okKeepsTheColourAndEndsPainting()
+{
+    const int k = keyOfLetter(1);
+    const QString face = QString("bg%1").arg(k);
+    const QString rest = game->style(face);
+
+    // OK of the paint picker paints the layer the Paint tab has selected, the background at
+    // start: a key at rest now shows its own (still empty) paint slot.
+    QColorDialog *paint = open(23);
+    paint->accept();
+    QVERIFY(!paint->isVisible());
+    game->type(1);
+    QCOMPARE(game->style(face), QString("border-radius: 10px;"));
+
+    // OK of the keys' background picker hands the board back to the keys' colours.
+    open(3)->accept();
+    game->type(1);
+    QCOMPARE(game->style(face), rest);
+}
+
+void tst_Pickers::severalOpenAndTheMenuClosesAllButTheLinesGradient()
+{
+    game->click("options");
+    QColorDialog *keypress = open(4);
+    QColorDialog *lines = open(21);
+    QColorDialog *english = open(1);
+    QVERIFY(keypress->isVisible() && lines->isVisible() && english->isVisible());
+
+    english->setCurrentColor(QColor(255, 0, 0));
+    game->click("closeX");
+    QVERIFY(!keypress->isVisible());
+    QVERIFY(!english->isVisible());
+    QCOMPARE(english->result(), int(QDialog::Rejected));
+    QCOMPARE(english->currentColor(), QColor(Qt::white));
+    QVERIFY(lines->isVisible());
+}
+
+void tst_Pickers::closingTheWindowClosesEveryPicker()
+{
+    QList<QColorDialog *> dialogs;
+    for (int N : {1, 12, 21, 30})
+        dialogs.append(open(N));
+    window->close();
+    for (QColorDialog *dialog : dialogs) {
+        QVERIFY(!dialog->isVisible());
+        QCOMPARE(dialog->result(), int(QDialog::Rejected));
+    }
+}
+
+QTEST_MAIN(tst_Pickers)
+#include "tst_pickers.moc"
