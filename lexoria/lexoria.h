@@ -299,6 +299,7 @@ private:
         QString *radialGradColor;
     };
     static const PickerRow &pickerRow(int N);
+    void applyLiveColour(int N);
     void pickerAcceptedBy(int N);
     void pickerRejectedBy(int N);
     void openPickerUnderMouse();
@@ -317,6 +318,8 @@ private:
     void textColourOfGamePlay(const QColor &color, const char *lead);
     std::array<std::unique_ptr<QColorDialog>, 31> colorDialogs;
     std::array<QColor, 31> savedColors;
+    std::array<QColor, 31> liveColors;
+    std::array<bool, 31> livePending {};
 
 private:
     // The tests stand in for the colour pickers, which write the targets' colours.

@@ -485,11 +485,22 @@ QColorDialog *lexoria::picker(int N)
         dialog->setCurrentColor(QColor(QLatin1String(row.start)));
     dialog->move(row.x, row.y);
 
-    connect(dialog.get(), &QColorDialog::currentColorChanged, this,
-        [this, N](const QColor &color) { pickerRow(N).live(*this, color); });
+    // A move can change the colour more than once (the dialog reports colour and alpha one
+    // after the other), and restyling the board takes longer than a move: only the latest
+    // colour of an event-loop turn is applied.
+    connect(dialog.get(), &QColorDialog::currentColorChanged, this, [this, N](const QColor &color) {
+        liveColors[N] = color;
+        if (livePending[N])
+            return;
+        livePending[N] = true;
+        QMetaObject::invokeMethod(
+            this, [this, N] { applyLiveColour(N); }, Qt::QueuedConnection);
+    });
     if (row.selected)
-        connect(dialog.get(), &QColorDialog::colorSelected, this,
-            [this, N](const QColor &color) { pickerRow(N).selected(*this, color); });
+        connect(dialog.get(), &QColorDialog::colorSelected, this, [this, N](const QColor &color) {
+            applyLiveColour(N);
+            pickerRow(N).selected(*this, color);
+        });
     connect(dialog.get(), &QDialog::accepted, this, [this, N] { pickerAcceptedBy(N); });
     connect(dialog.get(), &QDialog::rejected, this, [this, N] { pickerRejectedBy(N); });
     return dialog.get();
@@ -537,9 +548,18 @@ void lexoria::closePickers(int except)
     }
 }
 
+void lexoria::applyLiveColour(int N)
+{
+    if (!livePending[N])
+        return;
+    livePending[N] = false;
+    pickerRow(N).live(*this, liveColors[N]);
+}
+
 void lexoria::pickerAcceptedBy(int N)
 {
     const PickerRow &row = pickerRow(N);
+    applyLiveColour(N);
     pickerState.pickerAccepted[N] = true;
     allRise();
     if (row.ok)
@@ -555,6 +575,7 @@ void lexoria::pickerRejectedBy(int N)
     // colour did.
     if (N != 23)
         colorDialogs[N]->setCurrentColor(savedColors[N]);
+    applyLiveColour(N);
     if (row.cancelAlways)
         row.cancelAlways(*this);
     if (row.cancelNeverAccepted && !pickerState.pickerAccepted[N])

@@ -45,6 +45,12 @@ private:
         window->enableColor(N);
         return window->picker(N);
     }
+    // One move in the colour field; the window follows in the same event-loop turn.
+    void move(int N, const QColor &colour)
+    {
+        window->picker(N)->setCurrentColor(colour);
+        QCoreApplication::processEvents();
+    }
     void clickLabel(const QString &name)
     {
         QWidget *label = window->findChild<QWidget *>(name);
@@ -172,7 +178,8 @@ void tst_Pickers::liveColourReachesTheBoard()
     QFETCH(QString, widget);
     QFETCH(QString, style);
 
-    open(picker)->setCurrentColor(colour);
+    open(picker);
+    move(picker, colour);
     QCOMPARE(game->style(widget), style);
 }
 
@@ -186,7 +193,8 @@ void tst_Pickers::stateColoursShowWhenTheStateComes()
     QCOMPARE(game->style(englishLabelOf(1)), "color: rgba(0, 0, 255, 200 );;font-family: Calibri;");
     QTest::keyRelease(window.get(), Qt::Key_F);
 
-    open(7)->setCurrentColor(QColor(10, 20, 30));
+    open(7);
+    move(7, QColor(10, 20, 30));
     const QString shield = QString("shield%1").arg(keyOfLetter(1));
     QEvent enter(QEvent::Enter);
     QApplication::sendEvent(window->findChild<QWidget *>(shield), &enter);
