@@ -288,6 +288,8 @@ public:
     void closePickers(int except = 0);
 
 private:
+    // The tests read the colours the pickers write, which nothing shows until a key needs them.
+    friend class tst_Pickers;
     struct PickerRow;
     enum class BaseRule { Full, PlainTopOnly, ByShape };
     // The four colours of one side of a target, wherever the target keeps them.

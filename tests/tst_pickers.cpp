@@ -33,6 +33,11 @@ private slots:
     void liveColourReachesTheBoard_data();
     void liveColourReachesTheBoard();
     void stateColoursShowWhenTheStateComes();
+    void secondColourRule();
+    void topPickerCancelledBeforeOkTurnsTheGradientSolid();
+    void baseRulesOfTheOtherTargets();
+    void okHandsTheKeysColoursToThePaint();
+    void chosenColoursOfTheHighlightAndTheGamePlay();
     void cancelGivesBackTheOldColour();
     void cancelOfANeverAcceptedPickerRestores();
     void okKeepsTheColourAndEndsPainting();
@@ -206,6 +211,110 @@ void tst_Pickers::stateColoursShowWhenTheStateComes()
     QCOMPARE(game->style("goldenHighlight"),
         "border-radius: 10px;background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: "
         "0 gold, stop: .5  gold);color: rgba(40, 50, 60, 255 ) ;");
+}
+
+// Until the top picker of the keys was opened, the base picker writes both colours; after, the
+// top colour is the user's own.
+void tst_Pickers::secondColourRule()
+{
+    const GradientSide &keys = window->targets.keys.bg;
+    open(3);
+    move(3, QColor(255, 0, 0));
+    QCOMPARE(keys.color, QString("rgba(255, 0, 0, 255 ) "));
+    QCOMPARE(keys.gradColor, QString("rgba(255, 0, 0, 255 ) "));
+    // The shape is not radial, so the radial pair keeps its colours.
+    QCOMPARE(keys.radialColor, QString("black"));
+    QCOMPARE(keys.radialGradColor, QString("black"));
+    window->picker(3)->accept();
+    QVERIFY(!window->pickerState.keysGradOpened);
+
+    open(14);
+    QVERIFY(window->pickerState.keysGradOpened);
+    move(14, QColor(0, 0, 255, 100));
+    QCOMPARE(keys.gradColor, QString("rgba(0, 0, 255, 100 ) "));
+    QCOMPARE(keys.radialGradColor, QString("#0000ff"));
+    window->picker(14)->accept();
+
+    open(3);
+    move(3, QColor(0, 255, 0));
+    QCOMPARE(keys.color, QString("rgba(0, 255, 0, 255 ) "));
+    QCOMPARE(keys.gradColor, QString("rgba(0, 0, 255, 100 ) "));
+    // Cancel gives the keys back the red of the first OK, by the picker's own signal.
+    window->picker(3)->reject();
+    QCOMPARE(keys.color, QString("rgba(255, 0, 0, 255 ) "));
+    QCOMPARE(keys.gradColor, QString("rgba(0, 0, 255, 100 ) "));
+    QVERIFY(!window->pickerState.pickerAccepted[1]);
+    QVERIFY(window->pickerState.pickerAccepted[3]);
+}
+
+void tst_Pickers::topPickerCancelledBeforeOkTurnsTheGradientSolid()
+{
+    const GradientSide &keys = window->targets.keys.bg;
+    open(3);
+    move(3, QColor(10, 10, 10));
+    window->picker(3)->accept();
+    open(14);
+    move(14, QColor(200, 0, 0));
+    window->picker(14)->reject();
+    QCOMPARE(keys.gradColor, keys.color);
+    QCOMPARE(keys.radialGradColor, keys.radialColor);
+    QVERIFY(window->pickerState.keysGradOpened);
+}
+
+void tst_Pickers::baseRulesOfTheOtherTargets()
+{
+    // The mouse-over's base picker lets only the plain top colour follow.
+    const GradientSide &mouseover = window->targets.mouseover.bg;
+    open(9);
+    move(9, QColor(1, 2, 3));
+    QCOMPARE(mouseover.color, QString("rgba(1, 2, 3, 255 ) "));
+    QCOMPARE(mouseover.gradColor, QString("rgba(1, 2, 3, 255 ) "));
+    QCOMPARE(mouseover.radialColor, QString("#010203"));
+    QCOMPARE(mouseover.radialGradColor, QString("gold"));
+
+    // The keypress base picker writes all four while its top picker was never opened.
+    const GradientSide &keypress = window->targets.keypress.bg;
+    open(6);
+    move(6, QColor(4, 5, 6));
+    QCOMPARE(keypress.gradColor, QString("rgba(4, 5, 6, 255 ) "));
+    QCOMPARE(keypress.radialGradColor, QString("#040506"));
+
+    // Both line directions are chosen at start: the lines' colours are the vertical set.
+    open(12);
+    move(12, QColor(7, 8, 9, 10));
+    QCOMPARE(window->pieces.lineVerticalColor, QString("rgba(7, 8, 9, 255 ) "));
+    QCOMPARE(window->pieces.lineHorizontalColor, QString("blue"));
+    window->picker(12)->accept();
+    open(21)->reject();
+    QCOMPARE(window->pieces.lineHorizontalColor, QString(" transparent"));
+    QCOMPARE(window->pieces.lineHorizontalGradColor, QString(" transparent"));
+}
+
+void tst_Pickers::okHandsTheKeysColoursToThePaint()
+{
+    open(3);
+    move(3, QColor(0, 128, 0));
+    window->picker(3)->accept();
+    QCOMPARE(window->targets.rainbow.bg.color, QString("rgba(0, 128, 0, 255 ) "));
+    QCOMPARE(window->targets.rainbow.bg.gradColor, QString("rgba(0, 128, 0, 255 ) "));
+    QCOMPARE(window->pieces.rainbowBgStyle, window->pieces.keysBgStyle);
+    QCOMPARE(window->painted.paintBackgroundText, QString("0"));
+}
+
+void tst_Pickers::chosenColoursOfTheHighlightAndTheGamePlay()
+{
+    // OK writes the highlight's Russian colour in a form of its own.
+    open(15);
+    move(15, QColor(1, 1, 1));
+    QCOMPARE(window->pieces.highlightRussianColorStyle, QString("color: rgba(1, 1, 1, 255 ) ;"));
+    window->picker(15)->accept();
+    QCOMPARE(window->pieces.highlightRussianColorStyle, QString(" color: rgba(1, 1, 1, 255 ) ; "));
+
+    open(29);
+    move(29, QColor(2, 2, 2));
+    QCOMPARE(window->pieces.matchTextColorStyle, QString("color: rgba(2, 2, 2, 255 ) ;"));
+    window->picker(29)->accept();
+    QCOMPARE(window->pieces.userTextColorStyle, QString(" color: rgba(2, 2, 2, 255 ) ;"));
 }
 
 void tst_Pickers::cancelGivesBackTheOldColour()
