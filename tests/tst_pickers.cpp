@@ -225,6 +225,16 @@ void tst_Pickers::secondColourRule()
     // The shape is not radial, so the radial pair keeps its colours.
     QCOMPARE(keys.radialColor, QString("black"));
     QCOMPARE(keys.radialGradColor, QString("black"));
+    // The board follows through the keys' gradient: solid red in the vertical shape.
+    const QString red = "rgba(255, 0, 0, 255 ) ";
+    QCOMPARE(game->style(QString("bg%1").arg(keyOfLetter(1))),
+        "border-radius: 10px;background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: "
+        "0 " + red
+            + ", stop: .5  " + red + ");");
+    QCOMPARE(game->style("r1bg"),
+        "border-radius: 10px;background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: "
+        "0 " + red
+            + ", stop: .5  " + red + ");");
     window->picker(3)->accept();
     QVERIFY(!window->pickerState.keysGradOpened);
 
@@ -257,6 +267,9 @@ void tst_Pickers::topPickerCancelledBeforeOkTurnsTheGradientSolid()
     move(14, QColor(200, 0, 0));
     window->picker(14)->reject();
     QCOMPARE(keys.gradColor, keys.color);
+    QCOMPARE(game->style("r1bg"),
+        "border-radius: 10px;background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: "
+        "0 rgba(10, 10, 10, 255 ) , stop: .5  rgba(10, 10, 10, 255 ) );");
     QCOMPARE(keys.radialGradColor, keys.radialColor);
     QVERIFY(window->pickerState.keysGradOpened);
 }
