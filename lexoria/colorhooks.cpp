@@ -3,12 +3,6 @@
 // Seams between the parts of Color Madness while they are being built: each of these is replaced
 // by its real body in the file of its own subsystem.
 
-void lexoria::bgColorLoops() { }
-
-void lexoria::allRise() { }
-
-void lexoria::enableColor(int) { }
-
 void lexoria::fillRainbowE() { }
 
 void lexoria::fillRainbowUp() { }

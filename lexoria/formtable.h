@@ -72,6 +72,9 @@ extern const std::size_t effectsFormRowCount;
 // key shape.
 const WidgetRow *shadowFormRows();
 std::size_t shadowFormRowCount();
+// The swatches of the colour pickers on the colour tabs and frames.
+extern const WidgetRow pickerFormRows[];
+extern const std::size_t pickerFormRowCount;
 
 // The gradients of the Color Madness targets: their controls and sample keys. Made on first
 // use, since each target's controls follow one pattern.

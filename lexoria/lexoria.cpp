@@ -18,6 +18,7 @@
 #include "windows/ui_selfexplore.h"
 
 #include <QCloseEvent>
+#include <QColorDialog>
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -115,6 +116,7 @@ lexoria::lexoria(QWidget *parent)
     setUpDemonstration();
 
     connect(ui->aKeysMap, &QPushButton::clicked, this, &lexoria::aKeysMap_function);
+    setUpPickerSwatches();
 
     const QIcon flag(QStringLiteral(":/new/prefix1/russianFlag.gif"));
     setWindowIcon(flag);
@@ -154,6 +156,12 @@ lexoria::lexoria(QWidget *parent)
 
 lexoria::~lexoria()
 {
+    // The pickers have no parent; none of them may call back into a window being destroyed.
+    for (std::unique_ptr<QColorDialog> &dialog : colorDialogs) {
+        if (dialog)
+            dialog->disconnect(this);
+        dialog.reset();
+    }
     delete ui;
 }
 
@@ -250,5 +258,7 @@ void lexoria::centerMainWindow()
 
 void lexoria::closeEvent(QCloseEvent *event)
 {
+    // An open picker is a window of its own and would keep the program running.
+    closePickers();
     event->accept();
 }

@@ -20,6 +20,7 @@
 
 class QColor;
 class QPointF;
+class QColorDialog;
 class QLabel;
 class QPropertyAnimation;
 class QRadioButton;
@@ -294,6 +295,45 @@ public:
     void newFont(int kind);
     void makeCircle(int);
     void styleSheetExtended();
+    // Colour pickers (N 1..30): each is made on its first opening, with its wiring and place.
+    QColorDialog *picker(int N);
+    void closePickers(int except = 0);
+
+private:
+    // The tests read the colours the pickers write, which nothing shows until a key needs them.
+    friend class tst_Pickers;
+    struct PickerRow;
+    enum class BaseRule { Full, PlainTopOnly, ByShape };
+    // The four colours of one side of a target, wherever the target keeps them.
+    struct ColourSet
+    {
+        QString *color;
+        QString *gradColor;
+        QString *radialColor;
+        QString *radialGradColor;
+    };
+    static const PickerRow &pickerRow(int N);
+    void applyLiveColour(int N);
+    void pickerAcceptedBy(int N);
+    void pickerRejectedBy(int N);
+    void openPickerUnderMouse();
+    void setUpPickerSwatches();
+    void turnPaintOn(bool withBorder);
+    bool radioChecked(const char *name, bool whenMissing) const;
+    QList<ColourSet> selectedSides(int target);
+    bool &gradOpened(int target);
+    void baseColour(int target, const QColor &color, BaseRule rule);
+    void topColour(int target, const QColor &color);
+    void topFromBase(int target, bool radialToo);
+    void restyleKeysAtRest();
+    void restyleSample(int sample, int parts);
+    void stepListA();
+    void stepListB();
+    void textColourOfGamePlay(const QColor &color, const char *lead);
+    std::array<std::unique_ptr<QColorDialog>, 31> colorDialogs;
+    std::array<QColor, 31> savedColors;
+    std::array<QColor, 31> liveColors;
+    std::array<bool, 31> livePending {};
 
 private:
     // The tests stand in for the colour pickers, which write the targets' colours.
@@ -364,7 +404,6 @@ private:
     void openPanel(int panel);
     void paintTabs();
     void setNonVitalsVisible(bool visible, bool withMenu = false, bool withColorMadness = false);
-    void closeColourDialogs();
     void connectEffectsPanel();
     void keyLocated(bool random);
     void effectsAtGameStart();

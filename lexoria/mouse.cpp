@@ -178,6 +178,8 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{"shadowTheme3"}, [](lexoria &w) { w.shadowTh(3); }},
         {{"shadowTheme4"}, [](lexoria &w) { w.shadowTh(4); }},
         {{}, [](lexoria &w) { w.shadowCornerClicked(); }},
+        // Colour pickers: each swatch opens its own
+        {{}, [](lexoria &w) { w.openPickerUnderMouse(); }},
     };
     *count = std::size(rows);
     return rows;

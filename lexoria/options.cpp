@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QFrame>
 #include <QGraphicsDropShadowEffect>
 #include <QLabel>
@@ -142,7 +141,8 @@ void lexoria::hideFrame()
     for (int panel :
         {ColorMadness, Fonts, optionscatalogue::Shadows, Vortic, Photos, GamePlay, Audio})
         hidePanel(panel);
-    closeColourDialogs();
+    // The line highlight's gradient picker serves a frame outside the menu and stays.
+    closePickers(21);
     // Until then a click on "Show Advanced Options" is ignored, so a double click on closeX
     // does not bring the menu straight back.
     after(this, reopenDelay, [this, run] {
@@ -192,18 +192,6 @@ void lexoria::masterOptionsTextOut()
         if (run == menuRun)
             slide(OptionsText2Out);
     });
-}
-
-void lexoria::closeColourDialogs()
-{
-    // The pickers are parentless windows named after their members. Closing one counts as
-    // Cancel. The line highlight's gradient picker serves a frame outside the menu and stays.
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        auto *dialog = qobject_cast<QColorDialog *>(window);
-        if (dialog && dialog->isVisible()
-            && dialog->objectName() != QLatin1String("colorPickerGradBottom6"))
-            dialog->close();
-    }
 }
 
 void lexoria::showPanel(int panel)

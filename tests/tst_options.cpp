@@ -5,7 +5,6 @@
 #include "gamedriver.h"
 
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QGraphicsDropShadowEffect>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -49,7 +48,6 @@ private slots:
     void hideAndShowGiveBackWhatWasThere();
     void xRayIsUndoneWhenTheColourPanelCloses();
     void bridgesLieOverTheKeysWhileChecked();
-    void closingTheMenuCancelsColourPickers();
 
 private:
     QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
@@ -341,22 +339,6 @@ void tst_Options::bridgesLieOverTheKeysWhileChecked()
     game->click("menuFonts");
     QVERIFY(!visible("bridge2"));
     QVERIFY(!bottom->isChecked());
-}
-
-void tst_Options::closingTheMenuCancelsColourPickers()
-{
-    QColorDialog keys;
-    keys.setObjectName("colorPickerKpE");
-    QColorDialog lineHighlight;
-    lineHighlight.setObjectName("colorPickerGradBottom6");
-    game->click("options");
-    keys.show();
-    lineHighlight.show();
-
-    game->click("closeX");
-    QVERIFY(!keys.isVisible());
-    QCOMPARE(keys.result(), int(QDialog::Rejected));
-    QVERIFY(lineHighlight.isVisible());
 }
 
 QTEST_MAIN(tst_Options)
