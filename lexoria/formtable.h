@@ -72,6 +72,9 @@ extern const std::size_t effectsFormRowCount;
 // key shape.
 const WidgetRow *shadowFormRows();
 std::size_t shadowFormRowCount();
+// Pictures: the player's own key pictures, their sizes and the wallpaper's picture.
+extern const WidgetRow picturesFormRows[];
+extern const std::size_t picturesFormRowCount;
 
 // The gradients of the Color Madness targets: their controls and sample keys. Made on first
 // use, since each target's controls follow one pattern.

@@ -178,6 +178,8 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{"shadowTheme3"}, [](lexoria &w) { w.shadowTh(3); }},
         {{"shadowTheme4"}, [](lexoria &w) { w.shadowTh(4); }},
         {{}, [](lexoria &w) { w.shadowCornerClicked(); }},
+        // Pictures: the wallpaper's dial, the folder icons and the four picture displays
+        {{}, [](lexoria &w) { w.pictureControlClicked(); }},
     };
     *count = std::size(rows);
     return rows;

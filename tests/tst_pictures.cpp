@@ -1,0 +1,461 @@
+// Clicks go through the platform layer, so that underMouse() holds for the label clicked.
+#define QTEST_QPA_MOUSE_HANDLING
+
+#include "gamedriver.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFile>
+#include <QMovie>
+#include <QRadioButton>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace {
+
+const QString sheep = ":/new/prefix1/bouncingSheepSmall.gif";
+const QString rain = ":/new/prefix1/rain.gif";
+const QString blue = "border: 1px solid blue;";
+const QString black = "border: 1px solid black;";
+
+void hover(QWidget *widget, QEvent::Type type)
+{
+    QEvent event(type);
+    QApplication::sendEvent(widget, &event);
+}
+
+QByteArray resource(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return file.readAll();
+}
+
+} // namespace
+
+class tst_Pictures : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void suppliedGifOnEachTarget_data();
+    void suppliedGifOnEachTarget();
+    void ownPictureOnEachTarget_data();
+    void ownPictureOnEachTarget();
+    void clearingAndCancelTurnATargetOff();
+    void normalSizeAndShrinkToFit();
+    void badFileChangesNothing_data();
+    void badFileChangesNothing();
+    void highlightPictureShowsAtOnceDuringAGame();
+    void wallpaperPictureAndItsAlignment_data();
+    void wallpaperPictureAndItsAlignment();
+    void repeatAndClearOfTheWallpaper();
+    void xRayVisionClearsTheWindowUntilThePanelCloses();
+
+private:
+    QLabel *label(const QString &name) const { return window->findChild<QLabel *>(name); }
+    QRadioButton *radio(const QString &name) const
+    {
+        return window->findChild<QRadioButton *>(name);
+    }
+    bool shown(const QString &name) const { return !label(name)->isHidden(); }
+    void clickOn(const QString &name);
+    // A file the test makes from a resource, or from bytes of its own.
+    QString makeFile(const QString &name, const QByteArray &bytes);
+    void answer(const QString &file);
+
+    std::unique_ptr<lexoria> window;
+    std::unique_ptr<GameDriver> game;
+    std::unique_ptr<QTemporaryDir> dir;
+    QStringList filtersAsked;
+};
+
+void tst_Pictures::init()
+{
+    window = std::make_unique<lexoria>();
+    window->openLexoria();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    QTest::mouseMove(window.get(), QPoint(600, 30));
+    QTest::mouseMove(window.get(), QPoint(601, 30));
+    game = std::make_unique<GameDriver>(window.get());
+    dir = std::make_unique<QTemporaryDir>();
+    filtersAsked.clear();
+    game->click("menuPhotos");
+    QTRY_VERIFY(label("displayKeys")->isVisible());
+}
+
+void tst_Pictures::cleanup()
+{
+    game.reset();
+    window.reset();
+    dir.reset();
+}
+
+void tst_Pictures::clickOn(const QString &name)
+{
+    auto *widget = window->findChild<QWidget *>(name);
+    QVERIFY2(widget->isVisible(), qPrintable(name));
+    QTest::mouseMove(widget, widget->rect().center());
+    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, widget->rect().center());
+}
+
+QString tst_Pictures::makeFile(const QString &name, const QByteArray &bytes)
+{
+    QFile file(dir->filePath(name));
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write(bytes);
+    return file.fileName();
+}
+
+void tst_Pictures::answer(const QString &file)
+{
+    window->chooseImageFiles = [this, file](const QString &filter) {
+        filtersAsked.append(filter);
+        return file.isEmpty() ? QStringList() : QStringList {file};
+    };
+}
+
+void tst_Pictures::suppliedGifOnEachTarget_data()
+{
+    QTest::addColumn<QString>("display");
+    QTest::newRow("Keys") << "displayKeys";
+    QTest::newRow("Keypress") << "displayKeypress";
+    QTest::newRow("Highlight") << "displayHighlight";
+    QTest::newRow("Mouseover") << "displayMouseover";
+}
+
+// The display chosen with the mouse takes the sheep thumbnail's gif, at the sheep's own
+// 34 x 54, and a key shows it in that state.
+void tst_Pictures::suppliedGifOnEachTarget()
+{
+    QFETCH(QString, display);
+    clickOn(display);
+    QCOMPARE(label(display)->styleSheet(), blue);
+    for (const char *other :
+        {"displayKeys", "displayKeypress", "displayHighlight", "displayMouseover"}) {
+        if (display != QLatin1String(other))
+            QCOMPARE(label(other)->styleSheet(), black);
+    }
+    QVERIFY(shown("radioLine" + display.mid(7)));
+
+    clickOn("tnSheep");
+    QMovie *movie = label(display)->movie();
+    QVERIFY(movie);
+    QCOMPARE(movie->fileName(), sheep);
+    QCOMPARE(movie->currentImage().size(), QSize(34, 54));
+    QCOMPARE(movie->state(), QMovie::Running);
+
+    // а is on key 6 (F).
+    QLabel *image = label("img6");
+    if (display == "displayKeys") {
+        QVERIFY(shown("img6") && shown("imgSpacebar"));
+        QCOMPARE(label("img42")->movie(), movie);
+    } else if (display == "displayKeypress") {
+        QVERIFY(image->movie() != movie);
+        QTest::keyPress(window.get(), Qt::Key_F);
+        QVERIFY(shown("img6"));
+        QCOMPARE(image->movie(), movie);
+        QTest::keyRelease(window.get(), Qt::Key_F);
+        QVERIFY(!shown("img6"));
+    } else if (display == "displayMouseover") {
+        hover(label("shield6"), QEvent::Enter);
+        QVERIFY(shown("img6"));
+        QCOMPARE(image->movie(), movie);
+        hover(label("shield6"), QEvent::Leave);
+        QVERIFY(!shown("img6"));
+    } else {
+        game->startGame("pbForwardVarious");
+        game->click("goldenHighlight");
+        // The forward lowercase game starts from а.
+        QVERIFY(shown("img6"));
+        QCOMPARE(image->movie(), movie);
+    }
+}
+
+void tst_Pictures::ownPictureOnEachTarget_data()
+{
+    QTest::addColumn<QString>("open");
+    QTest::addColumn<QString>("display");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSize>("fit");
+    // The wallpaper sample is 240 x 160 and rain 80 x 60: both come to 54 wide.
+    QTest::newRow("Keys, png, by button") << "openImageKeys"
+                                          << "displayKeys"
+                                          << ":/new/prefix1/wallpaper.png"
+                                          << "mine.png" << QSize(54, 36);
+    QTest::newRow("Keypress, gif, by folder")
+        << "openFolderKeypress"
+        << "displayKeypress" << rain << "my rain.gif" << QSize(54, 41);
+    QTest::newRow("Highlight, png, by folder") << "openFolderHighlight"
+                                               << "displayHighlight"
+                                               << ":/new/prefix1/wallpaper.png"
+                                               << "h.png" << QSize(54, 36);
+    QTest::newRow("Mouseover, gif, by button")
+        << "openImageMouseover"
+        << "displayMouseover" << rain << "m.gif" << QSize(54, 41);
+}
+
+void tst_Pictures::ownPictureOnEachTarget()
+{
+    QFETCH(QString, open);
+    QFETCH(QString, display);
+    QFETCH(QString, source);
+    QFETCH(QString, name);
+    QFETCH(QSize, fit);
+
+    radio("radioRain")->click();
+    QVERIFY(!radio("radioNone")->isChecked());
+    const QString file = makeFile(name, resource(source));
+    answer(file);
+    if (open.startsWith("openFolder"))
+        clickOn(open);
+    else
+        game->click(open);
+
+    QCOMPARE(filtersAsked, QStringList {"Images(*bmp *.gif *.jpg *.png)"});
+    QMovie *movie = label(display)->movie();
+    QVERIFY(movie);
+    QCOMPARE(movie->fileName(), file);
+    QCOMPARE(movie->currentImage().size(), fit);
+    // The own-picture marker stands beside the buttons; the gif markers are all hidden.
+    QVERIFY(shown("radioLine" + display.mid(7) + "_2"));
+    QCOMPARE(label("radioLine" + display.mid(7) + "_2")->styleSheet(), blue);
+    for (const char *line :
+        {"radioLineKeys", "radioLineKeypress", "radioLineHighlight", "radioLineMouseover"})
+        QVERIFY(!shown(line));
+    QVERIFY(radio("radioNone")->isChecked());
+    if (display == "displayKeys")
+        QCOMPARE(label("img1")->movie(), movie);
+}
+
+void tst_Pictures::clearingAndCancelTurnATargetOff()
+{
+    radio("radioSnow")->click();
+    QVERIFY(shown("img1"));
+    game->click("clearKeysImage");
+    QVERIFY(!label("displayKeys")->movie());
+    QVERIFY(!shown("img1") && !shown("imgTab"));
+
+    // Keypress by a file, then a cancelled dialog: the target is off, keys press bare.
+    answer(makeFile("p.png", resource(":/new/prefix1/wallpaper.png")));
+    game->click("openImageKeypress");
+    QVERIFY(label("displayKeypress")->movie());
+    answer(QString());
+    game->click("openImageKeypress");
+    QVERIFY(!label("displayKeypress")->movie());
+    QTest::keyPress(window.get(), Qt::Key_F);
+    QVERIFY(!shown("img6"));
+    QTest::keyRelease(window.get(), Qt::Key_F);
+
+    // The clear button of one target leaves the others.
+    clickOn("displayMouseover");
+    radio("radioSwirl")->click();
+    clickOn("displayKeys");
+    radio("radioRain")->click();
+    game->click("clearMouseoverImage");
+    QVERIFY(!label("displayMouseover")->movie());
+    QCOMPARE(label("displayKeys")->movie()->fileName(), rain);
+    // Under the mouse a key shows the mouse-over picture or none, never its rest picture.
+    hover(label("shield6"), QEvent::Enter);
+    QVERIFY(!shown("img6"));
+    hover(label("shield6"), QEvent::Leave);
+    QVERIFY(shown("img6"));
+    QCOMPARE(label("img6")->movie()->fileName(), rain);
+}
+
+void tst_Pictures::normalSizeAndShrinkToFit()
+{
+    answer(makeFile("big.png", resource(":/new/prefix1/wallpaper.png")));
+    game->click("openImageKeys");
+    QMovie *movie = label("img1")->movie();
+    QCOMPARE(movie->currentImage().size(), QSize(54, 36));
+
+    radio("normalSize")->click();
+    QCOMPARE(label("img1")->movie(), movie);
+    QCOMPARE(movie->currentImage().size(), QSize(240, 160));
+    QVERIFY(shown("img47"));
+    radio("setToFit")->click();
+    QCOMPARE(movie->currentImage().size(), QSize(54, 36));
+
+    // The sheep's own fit is not the stored size of the last file.
+    radio("radioSheep")->click();
+    radio("normalSize")->click();
+    radio("setToFit")->click();
+    QCOMPARE(label("img1")->movie()->currentImage().size(), QSize(34, 54));
+
+    // Fill Size stretches the pictures of the wide keys only.
+    radio("expandGif")->click();
+    QVERIFY(label("imgSpacebar")->hasScaledContents());
+    QVERIFY(label("img42")->hasScaledContents());
+    QVERIFY(!label("img1")->hasScaledContents());
+    radio("normalGif")->click();
+    QVERIFY(!label("imgSpacebar")->hasScaledContents());
+}
+
+void tst_Pictures::badFileChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("exists");
+    QTest::newRow("missing") << QByteArray() << false;
+    QTest::newRow("not a picture") << QByteArray("this is no picture at all\n") << true;
+    QTest::newRow("empty") << QByteArray() << true;
+    QTest::newRow("gif cut after its header") << resource(rain).left(13) << true;
+    QTest::newRow("png with its data cut")
+        << resource(":/new/prefix1/wallpaper.png").left(60) << true;
+}
+
+// The keys keep their sheep, the panel its markers and the wallpaper its look.
+void tst_Pictures::badFileChangesNothing()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, exists);
+    radio("radioSheep")->click();
+    const QString file = exists ? makeFile("bad.gif", bytes) : dir->filePath("gone.png");
+    answer(file);
+
+    auto look = [this] {
+        QStringList state;
+        for (const char *name : {"displayKeys", "displayKeypress", "radioLineKeys",
+                 "radioLineKeys_2", "radioLineKeypress_2", "img1", "wallpaper"}) {
+            QLabel *each = label(name);
+            state << name << each->styleSheet() << QString::number(!each->isHidden())
+                  << (each->movie() ? each->movie()->fileName() : QString());
+        }
+        return state;
+    };
+    const QStringList before = look();
+    game->click("openImageKeys");
+    game->click("openImageKeypress");
+    game->click("openImageMain");
+    QCOMPARE(filtersAsked.size(), 3);
+    QCOMPARE(look(), before);
+    QCOMPARE(label("img1")->movie()->state(), QMovie::Running);
+    QTest::keyPress(window.get(), Qt::Key_F);
+    QVERIFY(shown("img6"));
+    QCOMPARE(label("img6")->movie()->fileName(), sheep);
+    QTest::keyRelease(window.get(), Qt::Key_F);
+}
+
+void tst_Pictures::highlightPictureShowsAtOnceDuringAGame()
+{
+    game->startGame("pbForwardVarious");
+    game->click("goldenHighlight");
+    QVERIFY(!shown("img6"));
+    answer(makeFile("gold.gif", resource(rain)));
+    game->click("openImageHighlight");
+    QVERIFY(shown("img6"));
+    QCOMPARE(label("img6")->movie(), label("displayHighlight")->movie());
+
+    // Cleared, the key keeps its highlight but shows no picture.
+    game->click("clearHighlightImage");
+    QVERIFY(!shown("img6"));
+    QVERIFY(game->style("bg6").contains("gold"));
+}
+
+void tst_Pictures::wallpaperPictureAndItsAlignment_data()
+{
+    QTest::addColumn<QString>("point");
+    QTest::addColumn<int>("alignment");
+    QTest::newRow("left top") << "leftTop" << int(Qt::AlignLeft | Qt::AlignTop);
+    QTest::newRow("middle top") << "middleTop" << int(Qt::AlignHCenter | Qt::AlignTop);
+    QTest::newRow("right top") << "rightTop" << int(Qt::AlignRight | Qt::AlignTop);
+    QTest::newRow("left") << "alignLeft" << int(Qt::AlignLeft | Qt::AlignVCenter);
+    QTest::newRow("centre") << "alignCenter" << int(Qt::AlignCenter);
+    QTest::newRow("right") << "alignRight" << int(Qt::AlignRight | Qt::AlignVCenter);
+    QTest::newRow("left bottom") << "leftBottom" << int(Qt::AlignLeft | Qt::AlignBottom);
+    QTest::newRow("middle bottom") << "middleBottom" << int(Qt::AlignHCenter | Qt::AlignBottom);
+    QTest::newRow("right bottom") << "rightBottom" << int(Qt::AlignRight | Qt::AlignBottom);
+}
+
+void tst_Pictures::wallpaperPictureAndItsAlignment()
+{
+    QFETCH(QString, point);
+    QFETCH(int, alignment);
+    const QString file = makeFile("wall paper (1).png", resource(":/new/prefix1/wallpaper.png"));
+    answer(file);
+    clickOn("openFolderMain");
+    QLabel *wallpaper = label("wallpaper");
+    QVERIFY(wallpaper->movie());
+    QCOMPARE(wallpaper->movie()->fileName(), file);
+    QCOMPARE(label("radioLineMain")->styleSheet(), blue);
+
+    clickOn(point + "_2");
+    QVERIFY(radio(point)->isChecked());
+    QCOMPARE(int(wallpaper->alignment()), alignment);
+    QCOMPARE(label(point + "_2")->styleSheet(), "border: 1px solid blue; border-radius: 0px;");
+
+    radio("stretchYes")->click();
+    QVERIFY(wallpaper->hasScaledContents());
+    radio("stretchNo")->click();
+    QVERIFY(!wallpaper->hasScaledContents());
+}
+
+void tst_Pictures::repeatAndClearOfTheWallpaper()
+{
+    const QString file = makeFile("tile.png", resource(":/new/prefix1/wallpaper.png"));
+    answer(file);
+    game->click("openImageMain");
+    QLabel *wallpaper = label("wallpaper");
+    const QString colours = wallpaper->styleSheet().remove("background-repeat: no-repeat;");
+
+    radio("repeatYes")->click();
+    QCOMPARE(wallpaper->styleSheet(), colours + "background-image: url(" + file + ");");
+    QVERIFY(!wallpaper->movie());
+    // While the picture repeats, the dial has nowhere to put it.
+    const Qt::Alignment before = wallpaper->alignment();
+    clickOn("rightBottom_2");
+    QVERIFY(radio("rightBottom")->isChecked());
+    QCOMPARE(wallpaper->alignment(), before);
+
+    radio("repeatNo")->click();
+    QCOMPARE(wallpaper->movie()->fileName(), file);
+    QCOMPARE(wallpaper->alignment(), Qt::AlignRight | Qt::AlignBottom);
+
+    radio("repeatYes")->click();
+    game->click("clearMainImage");
+    QVERIFY(radio("repeatNo")->isChecked());
+    QCOMPARE(wallpaper->styleSheet(), colours + "background-repeat: no-repeat;");
+    QVERIFY(!wallpaper->movie());
+    QCOMPARE(label("radioLineMain")->styleSheet(), black);
+
+    // A cancelled dialog leaves the transparent blank picture.
+    answer(QString());
+    game->click("openImageMain");
+    QCOMPARE(wallpaper->movie()->fileName(), QString(":/new/prefix1/blank.gif"));
+    QCOMPARE(label("radioLineMain")->styleSheet(), black);
+}
+
+void tst_Pictures::xRayVisionClearsTheWindowUntilThePanelCloses()
+{
+    auto *xRay = window->findChild<QCheckBox *>("xRayVision");
+    const QStringList cleared {"framePhotos", "openImageKeys", "clearMouseoverImage", "scoreboard",
+        "start", "optionsShield"};
+    clickOn("xRayVision");
+    QVERIFY(xRay->isChecked());
+    for (const QString &name : cleared)
+        QVERIFY2(window->findChild<QWidget *>(name)->isHidden(), qPrintable(name));
+    // What sets the wallpaper stays at hand.
+    for (const char *name : {"framePhotosMain", "openImageMain", "xRayVision"})
+        QVERIFY2(window->findChild<QWidget *>(name)->isVisible(), name);
+
+    clickOn("xRayVision");
+    for (const QString &name : cleared)
+        QVERIFY2(!window->findChild<QWidget *>(name)->isHidden(), qPrintable(name));
+
+    clickOn("xRayVision");
+    game->click("menuPhotos");
+    QVERIFY(!xRay->isChecked());
+    for (const char *name : {"scoreboard", "start", "optionsShield"})
+        QVERIFY2(!window->findChild<QWidget *>(name)->isHidden(), name);
+    QVERIFY(window->findChild<QWidget *>("framePhotos")->isHidden());
+}
+
+QTEST_MAIN(tst_Pictures)
+#include "tst_pictures.moc"
