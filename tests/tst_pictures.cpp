@@ -333,6 +333,9 @@ void tst_Pictures::wallpaperRepeatStretchAndClear()
     QCOMPARE(wallpaper->styleSheet(), colours + "background-image: url(" + file + ");");
     QVERIFY(!wallpaper->movie());
     // While the picture repeats, the dial has nowhere to put it.
+    // A new wallpaper colour keeps the tiles.
+    window->grad(7);
+    QVERIFY(wallpaper->styleSheet().endsWith("background-image: url(" + file + ");"));
     const Qt::Alignment before = wallpaper->alignment();
     clickOn("rightBottom_2");
     QCOMPARE(wallpaper->alignment(), before);
