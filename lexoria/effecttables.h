@@ -194,20 +194,30 @@ constexpr KeyPictureGif keyPictureGifs[] = {
     {"radioSnowFall", ":/new/prefix1/snowfall.gif", 54, 54},
 };
 
-// The four places a key picture can go, with the widgets that show which one is chosen.
+// The four places a key picture can go, with the widgets that show which one is chosen:
+// radioLine marks the target of the supplied gifs, radioLine..._2 the target of a file of
+// the player's own.
 enum Target { Keys, Keypress, Highlight, Mouseover };
 struct PictureTarget
 {
     const char *radio;
     const char *radioLine;
     const char *display;
+    const char *ownLine;
+    const char *openButton;
+    const char *openFolder;
+    const char *clearButton;
 };
 
 constexpr PictureTarget pictureTargets[] = {
-    {"radioKeys", "radioLineKeys", "displayKeys"},
-    {"radioKeypress", "radioLineKeypress", "displayKeypress"},
-    {"radioHighlight", "radioLineHighlight", "displayHighlight"},
-    {"radioMouseover", "radioLineMouseover", "displayMouseover"},
+    {"radioKeys", "radioLineKeys", "displayKeys", "radioLineKeys_2", "openImageKeys",
+        "openFolderKeys", "clearKeysImage"},
+    {"radioKeypress", "radioLineKeypress", "displayKeypress", "radioLineKeypress_2",
+        "openImageKeypress", "openFolderKeypress", "clearKeypressImage"},
+    {"radioHighlight", "radioLineHighlight", "displayHighlight", "radioLineHighlight_2",
+        "openImageHighlight", "openFolderHighlight", "clearHighlightImage"},
+    {"radioMouseover", "radioLineMouseover", "displayMouseover", "radioLineMouseover_2",
+        "openImageMouseover", "openFolderMouseover", "clearMouseoverImage"},
 };
 
 } // namespace effecttables

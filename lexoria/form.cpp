@@ -293,6 +293,8 @@ void lexoria::buildTable(QWidget *central)
         {shadowFormRows(), shadowFormRowCount()},
         // Colour pickers
         {pickerFormRows, pickerFormRowCount},
+        // Pictures
+        {picturesFormRows, picturesFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

@@ -95,7 +95,7 @@ class QTableWidget;
     X(QPushButton, openAudioPulse)                                                                 \
     X(QRadioButton, useUploadedAudio)                                                              \
     X(QRadioButton, audioNone)                                                                     \
-    X(QCheckBox, applyAudioToPulse)                                                              \
+    X(QCheckBox, applyAudioToPulse)                                                                \
     X(QFrame, frameVorticKeyboard)                                                                 \
     X(QPushButton, menuVorticKeyboard)                                                             \
     X(QLabel, mustStopGameToAccess)                                                                \
@@ -117,7 +117,18 @@ class QTableWidget;
     X(QPushButton, openImageFinished)                                                              \
     X(QPushButton, clearVorticKeyboardImage)                                                       \
     X(QLabel, tnCurrentImage)                                                                      \
-    X(QRadioButton, radioNone)
+    X(QRadioButton, radioNone)                                                                     \
+    /* Pictures */                                                                                 \
+    X(QCheckBox, xRayVision)                                                                       \
+    X(QRadioButton, repeatYes)                                                                     \
+    X(QRadioButton, repeatNo)                                                                      \
+    X(QRadioButton, stretchYes)                                                                    \
+    X(QRadioButton, stretchNo)                                                                     \
+    X(QRadioButton, normalSize)                                                                    \
+    X(QRadioButton, setToFit)                                                                      \
+    X(QRadioButton, normalGif)                                                                     \
+    X(QRadioButton, expandGif)                                                                     \
+    X(QLabel, radioLineMain)
 
 namespace Ui {
 

@@ -75,6 +75,9 @@ std::size_t shadowFormRowCount();
 // The swatches of the colour pickers on the colour tabs and frames.
 extern const WidgetRow pickerFormRows[];
 extern const std::size_t pickerFormRowCount;
+// Pictures: the player's own key pictures, their sizes and the wallpaper's picture.
+extern const WidgetRow picturesFormRows[];
+extern const std::size_t picturesFormRowCount;
 
 // The gradients of the Color Madness targets: their controls and sample keys. Made on first
 // use, since each target's controls follow one pattern.

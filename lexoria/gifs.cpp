@@ -230,22 +230,9 @@ void lexoria::movie(int N)
         clearPictureTarget(target);
         pictureOn(target) = QStringLiteral("1");
         picturePath(target) = QString::fromLatin1(gif.resource);
-        QMovie *movie = pictureMovie(target);
-        movie->setFileName(picturePath(target));
-        movie->setScaledSize(QSize(gif.width, gif.height));
-        ui->find<QLabel>(QLatin1String(place.display))->setMovie(movie);
-        movie->start();
-        // One movie feeds the whole keyboard: one decoder however many keys show it.
-        if (target == Keys) {
-            for (QLabel *image : qAsConst(keyImgLabels)) {
-                image->setMovie(movie);
-                image->show();
-            }
-        }
-        if (target == Highlight && goldHighActive)
-            goldHighOn();
-        for (const PictureTarget &other : pictureTargets)
-            ui->widget(QLatin1String(other.radioLine))->setVisible(&other == &place);
+        setPictureFitSize(target, QSize(gif.width, gif.height));
+        showPicture(target, pictureFitSize(target));
+        markPictureTarget(target, false);
     }
     ui->find<QRadioButton>(QLatin1String(gif.radio))->setChecked(true);
 }

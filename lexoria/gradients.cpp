@@ -174,6 +174,9 @@ void lexoria::grad(int target)
         break;
     case Wallpaper:
         restyle(ui->wallpaper, pieces.wallpaperBgStyle + pieces.wallpaperBorderStyle);
+        // A repeating picture is part of the same sheet and must survive a change of colour.
+        if (ui->repeatYes->isChecked())
+            mainRepeat();
         restyle(ui->pbQuit,
             QStringLiteral("font: 16pt 'MS Shell Dlg 2';  color: rgb(85, 0, 0); background-color: "
                            "transparent; "));

@@ -129,6 +129,7 @@ lexoria::lexoria(QWidget *parent)
     loadDisplayNoneArray();
     loadMovieArray();
     connectEffectsPanel();
+    connectPictures();
     loadGifs();
     displayBoth();
     // The control keys and the sample key carry no letter, so no restore ever paints them;

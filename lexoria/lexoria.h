@@ -16,6 +16,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <memory>
 
 class QColor;
@@ -363,6 +364,32 @@ public slots:
     // The history of past games
     void showProgress();
 
+    // Pictures behind the letters (targets Keys, Keypress, Highlight, Mouseover) and the
+    // wallpaper's picture
+    void radioKeys_function();
+    void radioKeypress_function();
+    void radioHighlight_function();
+    void radioMouseover_function();
+    void openImageKeys_Function();
+    void openImageKeypress_Function();
+    void openImageHighlight_Function();
+    void openImageMouseover_Function();
+    void normalSize_function();
+    void setToFit_function();
+    void stfOn();
+    void stfOff();
+    void openImageMain_Function();
+    void clearMainImage_function();
+    void mainRepeat();
+    void mainStretchToFit();
+    void mainAlign();
+    void xRayVisionPhotos();
+
+public:
+    // Asks the player for picture files with the given name filter; an empty list is a
+    // cancelled dialog. Tests put their own answer here instead of a modal dialog.
+    std::function<QStringList(const QString &nameFilter)> chooseImageFiles;
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -420,6 +447,18 @@ private:
     QString &pictureOn(int target);
     QString &picturePath(int target);
     QMovie *pictureMovie(int target);
+    QSize pictureFitSize(int target) const;
+    void setPictureFitSize(int target, const QSize &size);
+    void connectPictures();
+    void selectPictureTarget(int target);
+    void openPicture(int target);
+    void showPicture(int target, const QSize &size);
+    void clearPictureSlot(int target);
+    void markPictureTarget(int target, bool ownPicture);
+    void resizePictures(bool fit);
+    QStringList askForImageFiles(const QString &nameFilter);
+    void showWallpaperPicture();
+    void pictureControlClicked();
     bool fadeChosen() const;
 
     void setUpDemonstration();
@@ -529,6 +568,20 @@ private:
         QMovie keypressMovie;
         QMovie highlightMovie;
         QMovie mouseoverMovie;
+        // The size a picture fits a key with: a gif's own setting, or the player's picture
+        // scaled to 54 wide. "Shrink to Fit" goes back to it after "Normal Size".
+        int keysImageWidth = 54;
+        int keysImageHeight = 54;
+        int keypressImageWidth = 54;
+        int keypressImageHeight = 54;
+        int highlightImageWidth = 54;
+        int highlightImageHeight = 54;
+        int mouseoverImageWidth = 54;
+        int mouseoverImageHeight = 54;
+        QString mainImageOn;
+        QString mainImagePath;
+        QString wallpaperImageStyle = QStringLiteral("background-image: url();");
+        QMovie mainMovie;
     } pictures;
 
     bool gameRunning = false;

@@ -180,6 +180,8 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{}, [](lexoria &w) { w.shadowCornerClicked(); }},
         // Colour pickers: each swatch opens its own
         {{}, [](lexoria &w) { w.openPickerUnderMouse(); }},
+        // Pictures: the wallpaper's dial, the folder icons and the four picture displays
+        {{}, [](lexoria &w) { w.pictureControlClicked(); }},
     };
     *count = std::size(rows);
     return rows;

@@ -257,6 +257,11 @@ void lexoria::openPanel(int panel)
 void lexoria::hidePanel(int panel)
 {
     const PanelRow &row = panels[panel];
+    // X-Ray Vision ends with its panel, or the window would stay cleared.
+    if (panel == Photos && ui->xRayVision->isChecked()) {
+        ui->xRayVision->setChecked(false);
+        xRayVisionPhotos();
+    }
     if (panel == ColorMadness) {
         if (ui->find<QRadioButton>(QStringLiteral("xRayColorMadnessOff"))->isChecked())
             xNonVitalsOn_function();

@@ -127,12 +127,13 @@ constexpr Place fontsParks[] = {{"frameFonts", 0, 1500}, {"fontComboBoxEnglish",
     {"fontComboBoxUppercase", 308, 1500}, {"fontComboBoxLowercase", 606, 1500}};
 constexpr const char *fontCombos[]
     = {"fontComboBoxEnglish", "fontComboBoxUppercase", "fontComboBoxLowercase"};
-constexpr Place photosOpens[] = {{"framePhotos", 0, 0}, {"openImageKeys", 394, 97},
-    {"clearKeysImage", 482, 97}, {"openImageKeypress", 394, 136}, {"clearKeypressImage", 482, 136},
-    {"openImageHighlight", 394, 187}, {"clearHighlightImage", 482, 187},
-    {"openImageMouseover", 394, 224}, {"clearMouseoverImage", 482, 224},
-    {"openImageMain", 800, 106}, {"clearMainImage", 858, 106}, {"xRayVision", 983, 148},
-    {"framePhotosMain", 756, 74}};
+// The wallpaper's frame comes before its buttons, which are raised over it.
+constexpr Place photosOpens[] = {{"framePhotos", 0, 0}, {"framePhotosMain", 756, 74},
+    {"openImageKeys", 394, 97}, {"clearKeysImage", 482, 97}, {"openImageKeypress", 394, 136},
+    {"clearKeypressImage", 482, 136}, {"openImageHighlight", 394, 187},
+    {"clearHighlightImage", 482, 187}, {"openImageMouseover", 394, 224},
+    {"clearMouseoverImage", 482, 224}, {"openImageMain", 800, 106}, {"clearMainImage", 858, 106},
+    {"xRayVision", 983, 148}};
 constexpr Place shadowsOpens[] = {{"frameShadows", 0, 0}};
 constexpr Place audioOpens[] = {{"frameAudio", 0, 0}, {"openAudio", 334, 122}};
 constexpr Place audioParks[] = {{"openAudio", 1500, 300}, {"frameAudio", 1500, 405}};
