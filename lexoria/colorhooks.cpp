@@ -9,16 +9,6 @@ void lexoria::allRise() { }
 
 void lexoria::enableColor(int) { }
 
-void lexoria::fillRainbowE() { }
-
-void lexoria::fillRainbowUp() { }
-
-void lexoria::fillRainbowLow() { }
-
-void lexoria::fillRainbowBg() { }
-
-void lexoria::fillRainbowBorder() { }
-
 void lexoria::shadowThClear() { }
 
 void lexoria::akoKeysEng_26(const QColor &) { }

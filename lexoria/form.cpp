@@ -279,6 +279,8 @@ void lexoria::buildTable(QWidget *central)
         {progressFormRows, progressFormRowCount},
         // Gradients
         {gradientFormRows(&gradientRowCount), gradientRowCount},
+        // Rainbow
+        {rainbowFormRows, rainbowFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

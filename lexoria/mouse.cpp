@@ -172,6 +172,9 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{"tnSnowFall"}, [](lexoria &w) { w.movie(8); }},
         // Gradients: the shape thumbnails of every target
         {{}, [](lexoria &w) { w.shapeThumbnailClicked(); }},
+        // Rainbow
+        {{"colorPickerRainbowBg"}, [](lexoria &w) { w.rainbowSwatchClicked(false); }},
+        {{"colorPickerGradBottom8"}, [](lexoria &w) { w.rainbowSwatchClicked(true); }},
     };
     *count = std::size(rows);
     return rows;
