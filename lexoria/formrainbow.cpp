@@ -12,6 +12,14 @@ constexpr const char *themeWarning = "color: rgb(170, 0, 0); font: 10pt \"MS She
 
 // The Paint tab's text targets, the instructions page and the paint half of Save / Open.
 const WidgetRow rainbowFormRows[] = {
+    {Label, "colorPickerRainbowBg", "tab_3111", 45, 44, 45, 45, "", "", "Gradient 1",
+        ScaledContents},
+    {Label, "colorPickerRainbowBgCaption", "tab_3111", 20, 92, 95, 16, "Gradient 1", note, "",
+        Center},
+    {Label, "colorPickerGradBottom8", "tab_3111", 155, 44, 45, 45, "", "", "Gradient 2",
+        ScaledContents},
+    {Label, "colorPickerGradBottom8Caption", "tab_3111", 130, 92, 95, 16, "Gradient 2", note, "",
+        Center},
     {Label, "rainbowMustBeOpen", "tab_3111", 580, 118, 400, 20,
         "Color Picker box must be open to paint", mustBeOpen, "", 0},
     {Label, "rainbowTextCaption", "tab_3111", 810, 40, 180, 18, "Paint the text", note, "", 0},

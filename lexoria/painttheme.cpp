@@ -41,39 +41,75 @@ constexpr QString Theme::*tail[] = {
 };
 static_assert(firstTail + std::size(tail) - 1 == lineCount, "every line has its member");
 
-// One line of at most longestLine bytes, without its end. A longer line is skipped to its end
-// and comes back empty. budget is what is left to look at of the whole file; at 0 every
-// further line is empty, however much follows.
-QByteArray boundedLine(QIODevice &device, qint64 &budget)
+// Hands out the lines of a device, each of at most longestLine bytes and without its end; a
+// longer line is skipped to its end and comes back empty. Reads in blocks, as a file might be
+// unbuffered, and stops looking after the bytes that lineCount lines can fill: every further
+// line is empty, however much follows.
+class LineReader
 {
-    QByteArray line;
-    bool tooLong = false;
-    char chunk[4096];
-    while (budget > 0) {
-        const qint64 got = device.readLine(chunk, qMin<qint64>(sizeof chunk, budget + 1));
-        if (got <= 0)
-            break;
-        budget -= got;
-        const bool ended = chunk[got - 1] == '\n';
-        if (!tooLong) {
-            line.append(chunk, int(got));
-            if (line.size() > longestLine + 2) {
+public:
+    explicit LineReader(QIODevice &device)
+        : device(device)
+    {
+    }
+
+    QByteArray next()
+    {
+        bool tooLong = false;
+        for (;;) {
+            const int end = pending.indexOf('\n', from);
+            if (end >= 0) {
+                QByteArray line = tooLong ? QByteArray() : pending.mid(from, end - from);
+                from = end + 1;
+                return clean(line);
+            }
+            if (pending.size() - from > longestLine + 1) {
                 tooLong = true;
-                line.clear();
+                from = pending.size();
+            }
+            if (!fill()) {
+                QByteArray rest = tooLong ? QByteArray() : pending.mid(from);
+                from = pending.size();
+                return clean(rest);
             }
         }
-        if (ended)
-            break;
     }
-    if (line.endsWith('\n'))
-        line.chop(1);
-    // Written on another system, a line may end in a carriage return too.
-    if (line.endsWith('\r'))
-        line.chop(1);
-    if (line.size() > longestLine)
-        line.clear();
-    return line;
-}
+
+private:
+    bool fill()
+    {
+        if (budget <= 0)
+            return false;
+        pending.remove(0, from);
+        from = 0;
+        const QByteArray block = device.read(qMin<qint64>(blockSize, budget));
+        if (block.isEmpty())
+            return false;
+        budget -= block.size();
+        pending += block;
+        return true;
+    }
+
+    static QByteArray clean(QByteArray line)
+    {
+        if (line.size() > longestLine)
+            return {};
+        // No text of ours holds a NUL; what follows one is not a style.
+        const int nul = line.indexOf('\0');
+        if (nul >= 0)
+            line.truncate(nul);
+        // Written on another system, a line ends in a carriage return too.
+        while (line.endsWith('\r'))
+            line.chop(1);
+        return line;
+    }
+
+    static constexpr qint64 blockSize = 16 * 1024;
+    QIODevice &device;
+    QByteArray pending;
+    int from = 0;
+    qint64 budget = qint64(lineCount) * (longestLine + 2);
+};
 
 } // namespace
 
@@ -105,9 +141,9 @@ const QString &line(const Theme &theme, int number)
 Reading read(QIODevice &device)
 {
     Reading reading;
-    qint64 budget = qint64(lineCount) * (longestLine + 2);
+    LineReader lines(device);
     for (int number = 1; number <= lineCount; ++number)
-        line(reading.theme, number) = QString::fromUtf8(boundedLine(device, budget));
+        line(reading.theme, number) = QString::fromUtf8(lines.next());
     reading.notPaintTheme = reading.theme.kindMarker != QLatin1String("1");
     reading.notEnglish = reading.theme.languageMarker != QLatin1String("1");
     return reading;

@@ -6,6 +6,8 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QLabel>
+#include <QPixmap>
 #include <QRadioButton>
 #include <QSlider>
 
@@ -68,6 +70,11 @@ void lexoria::setUpRainbow()
     for (const auto &[name, slot] : targetSlots) {
         if (auto *radio = ui->find<QRadioButton>(QLatin1String(name)))
             connect(radio, &QRadioButton::clicked, this, slot);
+    }
+    const QPixmap swatch(QStringLiteral(":/new/prefix1/colorPicker.png"));
+    for (const char *name : {"colorPickerRainbowBg", "colorPickerGradBottom8"}) {
+        if (auto *label = ui->find<QLabel>(QLatin1String(name)))
+            label->setPixmap(swatch);
     }
     fillRainbowBg();
     fillRainbowE();
@@ -150,6 +157,9 @@ void lexoria::choosePaintTarget(int target)
 
     if (row.sides == BorderBefore)
         showRainbowSide(true);
+    // The picker is made when first opened, so it is titled and placed once it is open; an
+    // open one only changes its title and place.
+    enableColor(row.picker);
     if (QColorDialog *picker = rainbowPicker(row.picker)) {
         if (row.title)
             picker->setWindowTitle(QLatin1String(row.title));
@@ -157,7 +167,6 @@ void lexoria::choosePaintTarget(int target)
             picker->move(row.x, row.y);
         picker->raise();
     }
-    enableColor(row.picker);
     if (row.sides == BackgroundAfter)
         showRainbowSide(false);
 }
