@@ -484,7 +484,6 @@ private:
     void showRainbowSide(bool border);
     void choosePaintTarget(int target);
     void rainbowSwatchClicked(bool gradient);
-    void restyleNamed(const char *name, const QString &sheet);
     void gatherPaintTheme();
     void applyPaintTheme(const painttheme::Theme &theme);
     // The texts of the last paint theme saved or opened: a shape of 0 has no text and keeps

@@ -35,6 +35,13 @@ void numberFromText(int &value, const QString &text, int highest)
         value = number;
 }
 
+// The samples belong to other tabs' tables, which a build may lack.
+void restyleSample(const Ui::lexoria *ui, const char *name, const QString &sheet)
+{
+    if (QWidget *widget = ui->widget(QLatin1String(name)))
+        restyle(widget, sheet);
+}
+
 } // namespace
 
 void lexoria::setUpPaintFile()
@@ -53,12 +60,6 @@ void lexoria::setUpPaintFile()
 void lexoria::setFileAsker(FileAsker asker)
 {
     paintFile.askFile = std::move(asker);
-}
-
-void lexoria::restyleNamed(const char *name, const QString &sheet)
-{
-    if (QWidget *widget = ui->widget(QLatin1String(name)))
-        restyle(widget, sheet);
 }
 
 void lexoria::gatherPaintTheme()
@@ -235,26 +236,28 @@ void lexoria::loadPaint1()
     // The samples of the Keys and Paint tabs and the key's map show keys 1 and 26 as painted.
     const QString face1
         = pieces.demoRadiusStyle + painted.paintBgStyle[1] + painted.paintBorderStyle[1];
-    restyleNamed("demoLetter4Bg", face1);
-    restyleNamed("demoLetter1Bg", face1);
+    restyleSample(ui, "demoLetter4Bg", face1);
+    restyleSample(ui, "demoLetter1Bg", face1);
     restyle(ui->aKeysMap5,
         pieces.keyRadiusStyle + painted.paintBgStyle[26] + painted.paintBorderStyle[26]);
     const QString english = transparent + painted.paintEnglishColor[1] + pieces.demoEnglishFontStyle
         + pieces.englishFontStyle;
-    restyleNamed("demoLetter4English", english);
-    restyleNamed("demoLetter1_2", english);
+    restyleSample(ui, "demoLetter4English", english);
+    restyleSample(ui, "demoLetter1_2", english);
     const QString upper = transparent + painted.paintCharColor[55] + pieces.demoUpperFontStyle
         + pieces.upperFontStyle;
     const QString lower = transparent + painted.paintCharColor[22] + pieces.demoUpperFontStyle
         + pieces.lowerFontStyle;
-    restyleNamed("demoLetter4UpperCase", upper);
-    restyleNamed("demoLetter2_2", upper);
-    restyleNamed("demoLetter4LowerCase", lower);
-    restyleNamed("demoLetter3_2", lower);
-    restyleNamed(
-        "aKeysMap4", transparent + painted.paintEnglishColor[26] + pieces.englishFontStyle);
-    restyleNamed("aKeysMap2", transparent + painted.paintCharColor[66] + pieces.upperFontStyle);
-    restyleNamed("aKeysMap3", transparent + painted.paintCharColor[33] + pieces.lowerFontStyle);
+    restyleSample(ui, "demoLetter4UpperCase", upper);
+    restyleSample(ui, "demoLetter2_2", upper);
+    restyleSample(ui, "demoLetter4LowerCase", lower);
+    restyleSample(ui, "demoLetter3_2", lower);
+    restyleSample(
+        ui, "aKeysMap4", transparent + painted.paintEnglishColor[26] + pieces.englishFontStyle);
+    restyleSample(
+        ui, "aKeysMap2", transparent + painted.paintCharColor[66] + pieces.upperFontStyle);
+    restyleSample(
+        ui, "aKeysMap3", transparent + painted.paintCharColor[33] + pieces.lowerFontStyle);
 
     for (int i = 0; i < paintKeyCount - characterKeyCount; ++i) {
         const int K = controlKeys[i].number;
