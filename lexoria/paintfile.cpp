@@ -36,7 +36,7 @@ void numberFromText(int &value, const QString &text, int highest)
 }
 
 // The samples belong to other tabs' tables, which a build may lack.
-void restyleSample(const Ui::lexoria *ui, const char *name, const QString &sheet)
+void restyleLoadedSample(const Ui::lexoria *ui, const char *name, const QString &sheet)
 {
     if (QWidget *widget = ui->widget(QLatin1String(name)))
         restyle(widget, sheet);
@@ -236,27 +236,27 @@ void lexoria::loadPaint1()
     // The samples of the Keys and Paint tabs and the key's map show keys 1 and 26 as painted.
     const QString face1
         = pieces.demoRadiusStyle + painted.paintBgStyle[1] + painted.paintBorderStyle[1];
-    restyleSample(ui, "demoLetter4Bg", face1);
-    restyleSample(ui, "demoLetter1Bg", face1);
+    restyleLoadedSample(ui, "demoLetter4Bg", face1);
+    restyleLoadedSample(ui, "demoLetter1Bg", face1);
     restyle(ui->aKeysMap5,
         pieces.keyRadiusStyle + painted.paintBgStyle[26] + painted.paintBorderStyle[26]);
     const QString english = transparent + painted.paintEnglishColor[1] + pieces.demoEnglishFontStyle
         + pieces.englishFontStyle;
-    restyleSample(ui, "demoLetter4English", english);
-    restyleSample(ui, "demoLetter1_2", english);
+    restyleLoadedSample(ui, "demoLetter4English", english);
+    restyleLoadedSample(ui, "demoLetter1_2", english);
     const QString upper = transparent + painted.paintCharColor[55] + pieces.demoUpperFontStyle
         + pieces.upperFontStyle;
     const QString lower = transparent + painted.paintCharColor[22] + pieces.demoUpperFontStyle
         + pieces.lowerFontStyle;
-    restyleSample(ui, "demoLetter4UpperCase", upper);
-    restyleSample(ui, "demoLetter2_2", upper);
-    restyleSample(ui, "demoLetter4LowerCase", lower);
-    restyleSample(ui, "demoLetter3_2", lower);
-    restyleSample(
+    restyleLoadedSample(ui, "demoLetter4UpperCase", upper);
+    restyleLoadedSample(ui, "demoLetter2_2", upper);
+    restyleLoadedSample(ui, "demoLetter4LowerCase", lower);
+    restyleLoadedSample(ui, "demoLetter3_2", lower);
+    restyleLoadedSample(
         ui, "aKeysMap4", transparent + painted.paintEnglishColor[26] + pieces.englishFontStyle);
-    restyleSample(
+    restyleLoadedSample(
         ui, "aKeysMap2", transparent + painted.paintCharColor[66] + pieces.upperFontStyle);
-    restyleSample(
+    restyleLoadedSample(
         ui, "aKeysMap3", transparent + painted.paintCharColor[33] + pieces.lowerFontStyle);
 
     for (int i = 0; i < paintKeyCount - characterKeyCount; ++i) {
