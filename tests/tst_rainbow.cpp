@@ -3,6 +3,7 @@
 
 #include "gamedriver.h"
 
+#include <QColorDialog>
 #include <QRadioButton>
 #include <QTemporaryDir>
 
@@ -19,8 +20,17 @@ private slots:
     void aTextTargetTurnsItsLayerOn_data();
     void aTextTargetTurnsItsLayerOn();
     void swatchesDoNothingForATextTarget();
+    void anotherTargetOnlyRetitlesTheOpenPicker();
 
 private:
+    QColorDialog *picker(const char *swatch) const
+    {
+        for (QWidget *top : QApplication::topLevelWidgets()) {
+            if (top->objectName() == QLatin1String(swatch))
+                return qobject_cast<QColorDialog *>(top);
+        }
+        return nullptr;
+    }
     // The paint flags as a save writes them, English, upper, lower, background, border.
     QStringList savedFlags();
     QRadioButton *radio(const char *name) const
@@ -100,6 +110,26 @@ void tst_Rainbow::swatchesDoNothingForATextTarget()
     clickLabel("colorPickerGradBottom8");
     QVERIFY(radio("rainbowUppercase")->isChecked());
     QCOMPARE(savedFlags(), QStringList({"0", "1", "0", "0", "0"}));
+}
+
+void tst_Rainbow::anotherTargetOnlyRetitlesTheOpenPicker()
+{
+    game->click("options");
+    game->click("menuColorMadness");
+    window->selectColorMadnessTab(7);
+    radio("rainbowLowercase")->click();
+    QColorDialog *paint = picker("colorPickerRainbowBg");
+    if (!paint)
+        QSKIP("the colour pickers are not in this build");
+    QVERIFY(paint->isVisible());
+    QCOMPARE(paint->windowTitle(), QString("Rainbow Lowercase"));
+    QCOMPARE(paint->pos(), QPoint(978, 24));
+    radio("rainbowEnglish")->click();
+    QVERIFY(paint->isVisible());
+    QCOMPARE(paint->windowTitle(), QString("Rainbow English"));
+    QCOMPARE(paint->pos(), QPoint(22, 24));
+    QVERIFY(!radio("rainbowLowercase")->isChecked());
+    QCOMPARE(savedFlags(), QStringList({"1", "0", "1", "0", "0"}));
 }
 
 QTEST_MAIN(tst_Rainbow)
