@@ -223,15 +223,22 @@ void lexoria::loadPaint1()
 
     numberFromText(targets.rainbow.border.shape, theme.borderShape, 5);
     numberFromText(targets.rainbow.bg.shape, theme.bgShape, 5);
+    // The slider writes the side that is chosen, so both shapes are taken before it moves.
+    const int borderShape = targets.rainbow.border.shape;
+    const int bgShape = targets.rainbow.bg.shape;
     if (auto *shape = ui->find<QSlider>(QStringLiteral("hoSlider8"))) {
-        shape->setValue(targets.rainbow.border.shape);
-        shape->setValue(targets.rainbow.bg.shape);
+        shape->setValue(borderShape);
+        shape->setValue(bgShape);
     }
+    targets.rainbow.border.shape = borderShape;
+    targets.rainbow.bg.shape = bgShape;
     pickerState.rainbowGradOpened = theme.gradOpened != QLatin1String("0");
     numberFromText(targets.rainbow.bg.stopPos, theme.bgStopPos, 10);
     numberFromText(targets.rainbow.border.stopPos, theme.borderStopPos, 10);
+    const int borderStop = targets.rainbow.border.stopPos;
     if (auto *stop = ui->find<QSlider>(QStringLiteral("slider8")))
         stop->setValue(targets.rainbow.bg.stopPos);
+    targets.rainbow.border.stopPos = borderStop;
 
     // The samples of the Keys and Paint tabs and the key's map show keys 1 and 26 as painted.
     const QString face1
