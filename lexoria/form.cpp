@@ -295,6 +295,8 @@ void lexoria::buildTable(QWidget *central)
         {pickerFormRows, pickerFormRowCount},
         // Pictures
         {picturesFormRows, picturesFormRowCount},
+        // Rainbow
+        {rainbowFormRows, rainbowFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

@@ -82,6 +82,9 @@ extern const std::size_t picturesFormRowCount;
 // The gradients of the Color Madness targets: their controls and sample keys. Made on first
 // use, since each target's controls follow one pattern.
 const WidgetRow *gradientFormRows(std::size_t *count);
+// Rainbow: the Paint tab's text targets, the instructions page, the paint theme buttons.
+extern const WidgetRow rainbowFormRows[];
+extern const std::size_t rainbowFormRowCount;
 
 } // namespace formtable
 

@@ -144,6 +144,8 @@ lexoria::lexoria(QWidget *parent)
     setUpGradients();
     setUpShadows();
     setUpFontsAndShape();
+    // Rainbow: every paint slot starts as the general colour of its layer.
+    setUpRainbow();
 
     restyle(
         ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));

@@ -3,6 +3,7 @@
 
 #include "lexoria/colortargets.h"
 #include "lexoria/optionscatalogue.h"
+#include "lexoria/painttheme.h"
 #include "lexoria/stylepieces.h"
 
 #include <QElapsedTimer>
@@ -360,6 +361,30 @@ private:
     } pulsate;
 
 public:
+    // Rainbow: the paint targets and the paint theme file
+    void rainbowBackground();
+    void rainbowBorder_function();
+    void rainbowEnglish();
+    void rainbowLowercase();
+    void rainbowUppercase();
+    void rainbowBackgroundGradient();
+    void rainbowBorderGradient_function();
+    void savePaint_Function();
+    void openPaint_Function();
+    void loadPaint1();
+    void loadPaint2();
+    void loadPaint3();
+    // What a theme panel asks the user for; a test answers in place of the file dialog.
+    struct FileQuestion
+    {
+        bool save;
+        QString caption;
+        QString path;
+        QString filter;
+    };
+    using FileAsker = std::function<QString(const FileQuestion &)>;
+    void setFileAsker(FileAsker asker);
+
 public slots:
     // The history of past games
     void showProgress();
@@ -552,6 +577,25 @@ private:
         QString paintUnderscoreLeftColor;
         QString paintUnderscoreRightColor;
     } painted;
+
+    // Rainbow
+    void setUpRainbow();
+    void setUpPaintFile();
+    QColorDialog *rainbowPicker(int picker) const;
+    void showRainbowSide(bool border);
+    void choosePaintTarget(int target);
+    void rainbowSwatchClicked(bool gradient);
+    void gatherPaintTheme();
+    void applyPaintTheme(const painttheme::Theme &theme);
+    // The texts of the last paint theme saved or opened: a shape of 0 has no text and keeps
+    // the one it had.
+    struct PaintFile
+    {
+        painttheme::Theme texts;
+        QString currentThemeName;
+        QString lastThemeName;
+        FileAsker askFile;
+    } paintFile;
 
     // Pictures behind the letters of the keys; the "On" flags are "1" or "0", empty counts as off.
     struct Pictures

@@ -182,6 +182,9 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         {{}, [](lexoria &w) { w.openPickerUnderMouse(); }},
         // Pictures: the wallpaper's dial, the folder icons and the four picture displays
         {{}, [](lexoria &w) { w.pictureControlClicked(); }},
+        // Rainbow
+        {{"colorPickerRainbowBg"}, [](lexoria &w) { w.rainbowSwatchClicked(false); }},
+        {{"colorPickerGradBottom8"}, [](lexoria &w) { w.rainbowSwatchClicked(true); }},
     };
     *count = std::size(rows);
     return rows;
