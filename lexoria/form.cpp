@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTableWidget>
 
@@ -73,6 +74,8 @@ QWidget *makeWidget(Kind kind, QWidget *parent)
         return new QSlider(Qt::Horizontal, parent);
     case Widget:
         break;
+    case SpinBox:
+        return new QSpinBox(parent);
     }
     return new QWidget(parent);
 }
@@ -297,6 +300,8 @@ void lexoria::buildTable(QWidget *central)
         {picturesFormRows, picturesFormRowCount},
         // Rainbow
         {rainbowFormRows, rainbowFormRowCount},
+        // Borders
+        {borderFormRows, borderFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

@@ -19,6 +19,8 @@ enum Kind {
     TabWidget, // rows whose parent is a tab widget become its pages, titled by their text
     FontComboBox,
     Slider, // upright when taller than wide; its text may hold "minimum maximum value"
+    // Borders
+    SpinBox,
 };
 
 enum Flag {
@@ -78,6 +80,9 @@ extern const std::size_t pickerFormRowCount;
 // Pictures: the player's own key pictures, their sizes and the wallpaper's picture.
 extern const WidgetRow picturesFormRows[];
 extern const std::size_t picturesFormRowCount;
+// Borders: the width controls of the colour targets and the built-in themes' page.
+extern const WidgetRow borderFormRows[];
+extern const std::size_t borderFormRowCount;
 
 // The gradients of the Color Madness targets: their controls and sample keys. Made on first
 // use, since each target's controls follow one pattern.

@@ -146,6 +146,7 @@ lexoria::lexoria(QWidget *parent)
     setUpFontsAndShape();
     // Rainbow: every paint slot starts as the general colour of its layer.
     setUpRainbow();
+    setUpBorders();
 
     restyle(
         ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));

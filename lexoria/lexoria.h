@@ -297,6 +297,19 @@ public:
     void newFont(int kind);
     void makeCircle(int);
     void styleSheetExtended();
+    // Borders. Width controls are numbered 1, 2, 3, 4, 5 (wallpaper), 8 and 27; the side slots
+    // take the gradient target (1, 2, 3, 4, 7, 27); themes are 1..3.
+    void sliderBorderWidth_function(int control, int value);
+    void sliderBorderWidth1_loops();
+    void background_function(int target);
+    void border_function(int target);
+    void theme_Border_function(int theme);
+    void theme_Background_function(int theme);
+    void chooseTheme(int theme);
+    bool painting() const
+    {
+        return pickerState.paintingWithBase || pickerState.paintingWithGradient;
+    }
     // Colour pickers (N 1..30): each is made on its first opening, with its wiring and place.
     QColorDialog *picker(int N);
     void closePickers(int except = 0);
@@ -534,6 +547,21 @@ private:
     const QString &fontPiece(int n) const;
     const QString &colourPiece(int n) const;
     bool rowPainted(int n) const;
+
+    // Borders
+    void setUpBorders();
+    void moveSideControls(int target, int shape, int stopPos);
+    QString faceAtRest(int index) const;
+    void restAllFaces();
+    void keysSamples();
+    void themeGamePlay();
+    bool paintChoice(const char *name) const;
+    void paintFace(int K, int index, bool withBar);
+    void paintEnglish(int K, int index);
+    void paintLetter(int n);
+    void paintKey(int k);
+    void paintBarCell(int n);
+    void paintControl(int K);
 
     void setUpSound();
     void keyPressSound(int n);

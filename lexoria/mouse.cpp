@@ -124,6 +124,10 @@ const lexoria::HoverRow *lexoria::hoverRows(std::size_t *count)
     };
     constexpr Action emphasis = [](lexoria &, QWidget *button, int) { emphasise(button); };
     constexpr Action noEmphasis = [](lexoria &, QWidget *button, int) { deemphasise(button); };
+    constexpr Action paintControl = [](lexoria &w, QWidget *, int K) {
+        if (w.painting())
+            w.paintControl(K);
+    };
 
     static const HoverRow rows[] = {
         {"spinBox27", 0, 0, takeFocus, dropFocus},
@@ -134,13 +138,31 @@ const lexoria::HoverRow *lexoria::hoverRows(std::size_t *count)
         {"rcBoth", 0, 0, lightCaption, darkenCaption},
         {"start", 0, 0, emphasis, noEmphasis},
         {"stop", 0, 0, emphasis, noEmphasis},
-        {"shield%1", 1, characterKeyCount, [](lexoria &w, QWidget *, int k) { w.keyHover(k); },
-            [](lexoria &w, QWidget *, int k) { w.keyLeave(k); }},
-        {"r%1", 1, letterCount, [](lexoria &w, QWidget *, int n) { w.barHover(n); },
-            [](lexoria &w, QWidget *, int n) { w.changeColorBack(n); }},
+        // While a rainbow picker is open the mouse paints, and a painted key keeps its paint
+        // when the mouse leaves it.
+        {"shield%1", 1, characterKeyCount,
+            [](lexoria &w, QWidget *, int k) { w.painting() ? w.paintKey(k) : w.keyHover(k); },
+            [](lexoria &w, QWidget *, int k) {
+                if (!w.painting())
+                    w.keyLeave(k);
+            }},
+        {"r%1", 1, letterCount,
+            [](lexoria &w, QWidget *, int n) { w.painting() ? w.paintBarCell(n) : w.barHover(n); },
+            [](lexoria &w, QWidget *, int n) {
+                if (!w.painting())
+                    w.changeColorBack(n);
+            }},
         {"labelTab%1", 1, optionscatalogue::tabCount,
             [](lexoria &w, QWidget *, int tab) { w.hoverColorMadnessTab(tab, true); },
             [](lexoria &w, QWidget *, int tab) { w.hoverColorMadnessTab(tab, false); }},
+        // Borders: the control keys have no hover look of their own, only paint.
+        {"labelBackSpace", 48, 48, paintControl, nullptr},
+        {"labelTab", 49, 49, paintControl, nullptr},
+        {"labelCapsLock", 50, 50, paintControl, nullptr},
+        {"labelEnter", 51, 51, paintControl, nullptr},
+        {"labelShiftLeft", 52, 52, paintControl, nullptr},
+        {"labelShiftRight", 53, 53, paintControl, nullptr},
+        {"labelSpacebar", 54, 54, paintControl, nullptr},
     };
     *count = std::size(rows);
     return rows;
@@ -185,6 +207,10 @@ const lexoria::ClickRow *lexoria::clickRows(std::size_t *count)
         // Rainbow
         {{"colorPickerRainbowBg"}, [](lexoria &w) { w.rainbowSwatchClicked(false); }},
         {{"colorPickerGradBottom8"}, [](lexoria &w) { w.rainbowSwatchClicked(true); }},
+        // Borders
+        {{"theme1"}, [](lexoria &w) { w.chooseTheme(1); }},
+        {{"theme2"}, [](lexoria &w) { w.chooseTheme(2); }},
+        {{"theme3"}, [](lexoria &w) { w.chooseTheme(3); }},
     };
     *count = std::size(rows);
     return rows;
