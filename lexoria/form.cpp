@@ -291,6 +291,8 @@ void lexoria::buildTable(QWidget *central)
         {gradientFormRows(&gradientRowCount), gradientRowCount},
         // Shadows
         {shadowFormRows(), shadowFormRowCount()},
+        // Keyboard theme file
+        {themeFileFormRows, themeFileFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

@@ -76,6 +76,9 @@ std::size_t shadowFormRowCount();
 // The gradients of the Color Madness targets: their controls and sample keys. Made on first
 // use, since each target's controls follow one pattern.
 const WidgetRow *gradientFormRows(std::size_t *count);
+// The keyboard theme's Save and Open on the "Save / Open" tab.
+extern const WidgetRow themeFileFormRows[];
+extern const std::size_t themeFileFormRowCount;
 
 } // namespace formtable
 

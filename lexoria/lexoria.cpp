@@ -141,6 +141,7 @@ lexoria::lexoria(QWidget *parent)
     setUpGradients();
     setUpShadows();
     setUpFontsAndShape();
+    setUpKeyboardTheme();
 
     restyle(
         ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));
