@@ -2,7 +2,6 @@
 
 #include <QBuffer>
 #include <QDir>
-#include <QTemporaryDir>
 #include <QTextCodec>
 #include <QtTest>
 
@@ -36,27 +35,6 @@ private:
     QByteArray pattern;
 };
 
-// A disk that fills up after a few bytes.
-class FullDevice : public QIODevice
-{
-public:
-    FullDevice() { open(QIODevice::WriteOnly); }
-
-protected:
-    qint64 readData(char *, qint64) override { return -1; }
-    qint64 writeData(const char *, qint64 size) override
-    {
-        if (room <= 0)
-            return -1;
-        const qint64 taken = qMin(size, room);
-        room -= taken;
-        return taken;
-    }
-
-private:
-    qint64 room = 100;
-};
-
 QByteArray numberedLines(int count, const char *end = "\n")
 {
     QByteArray bytes = "0";
@@ -79,11 +57,8 @@ private slots:
     void readsLines();
     void readsNoMoreThanItNeeds_data();
     void readsNoMoreThanItNeeds();
-    void warnings_data();
-    void warnings();
     void corpusReadsBackAfterWriting_data();
     void corpusReadsBackAfterWriting();
-    void failedWritesAreReported();
 };
 
 void tst_KeyboardThemeFile::readsLines_data()
@@ -145,27 +120,6 @@ void tst_KeyboardThemeFile::readsNoMoreThanItNeeds()
     QVERIFY(theme.notKeyboardTheme);
 }
 
-void tst_KeyboardThemeFile::warnings_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("warning");
-
-    QTest::newRow("keyboard theme") << QByteArray("0\n1\n") << "";
-    QTest::newRow("paint theme") << QByteArray("1\n1\n") << "This is not a Keyboard theme";
-    QTest::newRow("other language") << QByteArray("0\n2\n") << "This is not an English Theme.";
-    QTest::newRow("both wrong: the second stands")
-        << QByteArray("x\ny\n") << "This is not an English Theme.";
-    QTest::newRow("empty file") << QByteArray() << "This is not an English Theme.";
-    QTest::newRow("marker with a blank") << QByteArray("0 \n1\n") << "This is not a Keyboard theme";
-}
-
-void tst_KeyboardThemeFile::warnings()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, warning);
-    QCOMPARE(keyboardtheme::warning(read(bytes)), warning);
-}
-
 // Every file the fuzzer ever failed on stays in its corpus, and so in this test.
 void tst_KeyboardThemeFile::corpusReadsBackAfterWriting_data()
 {
@@ -194,18 +148,6 @@ void tst_KeyboardThemeFile::corpusReadsBackAfterWriting()
         if (codec->canEncode(line) && codec->fromUnicode(line).size() <= longestLine)
             QCOMPARE(again.line(number), line);
     }
-}
-
-void tst_KeyboardThemeFile::failedWritesAreReported()
-{
-    FullDevice full;
-    QVERIFY(!write(full, startTheme()));
-
-    QTemporaryDir dir;
-    QVERIFY(!save(dir.filePath(QStringLiteral("no such folder/theme.txt")), startTheme()));
-    QVERIFY(!save(QString(), startTheme()));
-    QVERIFY(save(dir.filePath(QStringLiteral("theme.txt")), startTheme()));
-    QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList {"theme.txt"});
 }
 
 QTEST_MAIN(tst_KeyboardThemeFile)
