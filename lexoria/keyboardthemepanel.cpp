@@ -1,10 +1,10 @@
 #include "lexoria/lexoria.h"
 
 #include "lexoria/form.h"
+#include "lexoria/gradientcatalogue.h"
 #include "lexoria/keycatalogue.h"
 #include "lexoria/restyle.h"
 
-#include <QAbstractButton>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -18,7 +18,7 @@ using keyboardtheme::lineCount;
 
 namespace {
 
-const QString transparent = QStringLiteral("background-color: transparent;");
+const QString transparent = QLatin1String(gradientcatalogue::transparent);
 
 // The lines that hold an int as text: shapes 1..5, then stop positions 1..10. Any other text
 // leaves the int alone, and an int of 0 leaves the text alone.
@@ -40,36 +40,6 @@ struct SliderRow
 constexpr SliderRow sliderRows[] = {{1, &ColorTargets::keys}, {2, &ColorTargets::keypress},
     {3, &ColorTargets::mouseover}, {4, &ColorTargets::highlight}, {7, &ColorTargets::wallpaper},
     {8, &ColorTargets::rainbow}, {27, &ColorTargets::gamePlay}};
-
-// The sample key of a colour tab: face, English, upper and lower case letter.
-struct SampleRow
-{
-    const char *face, *english, *upper, *lower;
-    QString StylePieces::*bg;
-    QString StylePieces::*border;
-    QString StylePieces::*englishColour;
-    QString StylePieces::*upperColour;
-    QString StylePieces::*lowerColour;
-    QString StylePieces::*russianDemoFont;
-};
-const SampleRow sampleRows[] = {
-    {"demoLetter1Bg", "demoLetter1_2", "demoLetter2_2", "demoLetter3_2", &StylePieces::keysBgStyle,
-        &StylePieces::keysBorderStyle, &StylePieces::englishColorStyle,
-        &StylePieces::upperColorStyle, &StylePieces::lowerColorStyle,
-        &StylePieces::demoUpperFontStyle},
-    {"demoLetterCenterBG", "demoLetter1", "demoLetter2", "demoLetter3",
-        &StylePieces::keypressBgStyle, &StylePieces::keypressBorderStyle,
-        &StylePieces::keypressEnglishColorStyle, &StylePieces::keypressRussianColorStyle,
-        &StylePieces::keypressRussianColorStyle, &StylePieces::demoUpperFontStyle},
-    {"demoLetterRightBg", "demoLetter1_3", "demoLetter2_3", "demoLetter3_3",
-        &StylePieces::mouseoverBgStyle, &StylePieces::mouseoverBorderStyle,
-        &StylePieces::mouseoverEnglishColorStyle, &StylePieces::mouseoverRussianColorStyle,
-        &StylePieces::mouseoverRussianColorStyle, &StylePieces::demoUpperFontStyle},
-    {"demoLetterHiBg", "demoLetterHiE", "demoLetterHiUpD", "demoLetterHiLowD",
-        &StylePieces::highlightBgStyle, &StylePieces::highlightBorderStyle,
-        &StylePieces::highlightEnglishColorStyle, &StylePieces::highlightRussianColorStyle,
-        &StylePieces::highlightRussianColorStyle, &StylePieces::demoLowerFontStyle},
-};
 
 } // namespace
 
@@ -306,7 +276,7 @@ void lexoria::loadKeyboard()
 
     set_Match_StyleSheet();
     set_User_StyleSheet();
-    restyleGameFields();
+    gamePlayFields();
 
     for (int line : {124, 125}) {
         QFontComboBox *box = fontBox(ui, line);
@@ -340,14 +310,11 @@ void lexoria::restyleKeyboardSamples()
             restyle(widget, sheet);
     };
     const StylePieces &p = pieces;
-    for (const SampleRow &row : sampleRows) {
-        restyleNamed(row.face, p.demoRadiusStyle + p.*row.bg + p.*row.border);
-        restyleNamed(row.english,
-            transparent + p.*row.englishColour + p.demoEnglishFontStyle + p.englishFontStyle);
-        restyleNamed(row.upper,
-            transparent + p.*row.upperColour + p.*row.russianDemoFont + p.upperFontStyle);
-        restyleNamed(row.lower,
-            transparent + p.*row.lowerColour + p.*row.russianDemoFont + p.lowerFontStyle);
+    for (int sample : {gradientcatalogue::KeysSample, gradientcatalogue::KeypressSample,
+             gradientcatalogue::MouseoverSample, gradientcatalogue::HighlightSample}) {
+        restyleSampleFace(sample);
+        restyleSampleEnglish(sample);
+        restyleSampleRussian(sample);
     }
     restyleNamed("aKeysMap5", p.keyRadiusStyle + p.keysBgStyle + p.keysBorderStyle);
     // The map's letters keep the sizes they were drawn for; only colour and family follow.
@@ -368,40 +335,4 @@ void lexoria::restyleKeyboardSamples()
         transparent + painted.paintCharColor[55] + p.demoUpperFontStyle + p.upperFontStyle);
     restyleNamed("demoLetter4LowerCase",
         transparent + painted.paintCharColor[22] + p.demoUpperFontStyle + p.lowerFontStyle);
-}
-
-// The game fields the game play target colours: the one its radio chooses, or both.
-void lexoria::restyleGameFields()
-{
-    auto checked = [this](const char *name) {
-        auto *box = ui->find<QAbstractButton>(QLatin1String(name));
-        return box && box->isChecked();
-    };
-    auto restyleNamed = [this](const char *name, const QString &sheet) {
-        if (QWidget *widget = ui->widget(QLatin1String(name)))
-            restyle(widget, sheet);
-    };
-    const bool match = checked("matchThisCm");
-    const bool user = !match && checked("yourEntryCm");
-    const bool headers = checked("gamePlayCb");
-    const QString field
-        = pieces.gamePlayRadiusStyle + pieces.gamePlayBgStyle + pieces.gamePlayBorderStyle;
-    if (!user) {
-        restyleNamed("leMatchBg", field);
-        if (headers) {
-            restyleNamed("matchThisBg", pieces.gamePlayBgStyle);
-            restyleNamed("matchThis",
-                QStringLiteral("background-color: transparent;  font: 12pt 'MS Shell Dlg 2';")
-                    + pieces.matchTextColorStyle);
-        }
-    }
-    if (!match) {
-        restyleNamed("leUserBg", field);
-        if (headers) {
-            restyleNamed("yourEntryBg", pieces.gamePlayBgStyle);
-            restyleNamed("yourEntry",
-                QStringLiteral("background-color: transparent; font: 12pt 'MS Shell Dlg 2';")
-                    + pieces.userTextColorStyle);
-        }
-    }
 }

@@ -617,7 +617,6 @@ private:
     void gatherKeyboardTheme();
     void applyKeyboardThemeTexts(const keyboardtheme::Theme &theme);
     void restyleKeyboardSamples();
-    void restyleGameFields();
     keyboardtheme::Theme keyboardThemeFile = keyboardtheme::startTheme();
     QString currentThemeName;
     QString lastThemeName;

@@ -3,6 +3,7 @@
 
 #include <QFontComboBox>
 #include <QFontDatabase>
+#include <QSlider>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -49,6 +50,7 @@ private slots:
     void savedDefaultTheme_data();
     void savedDefaultTheme();
     void openingAppliesEveryLineAndSavesItBack();
+    void changedGradientComesBack();
     void cancelledDialogsChangeNothing();
     void failures_data();
     void failures();
@@ -159,7 +161,7 @@ void tst_KeyboardTheme::openingAppliesEveryLineAndSavesItBack()
     const QString path = editedTheme(QStringLiteral("Red Keys.txt"),
         {{3, "rgba(200, 0, 0, 255)"}, {4, "red"}, {33, ".3"}, {42, redKeys}, {47, "3"},
             {51, "color: yellow;"}, {52, "color: pink;"}, {53, "color: cyan;"}, {61, border},
-            {66, "background-color: navy;"}, {71, "3"}, {75, "7"}, {122, "font-family: Arial;"},
+            {66, "background-color: navy;"}, {122, "font-family: Arial;"},
             {123, "font-family: Courier;"}, {124, family}, {109, "spare text"},
             {119, "color: orange;"}, {72, "9"}, {76, "x"}});
     open(path);
@@ -194,6 +196,33 @@ void tst_KeyboardTheme::openingAppliesEveryLineAndSavesItBack()
     expected[71] = "1";
     expected[75] = "5";
     QCOMPARE(linesOf(fileBytes(save(QStringLiteral("again.txt")))), expected);
+}
+
+void tst_KeyboardTheme::changedGradientComesBack()
+{
+    const QString defaults = save(QStringLiteral("default.txt"));
+    const QString defaultFace = game->style("bg1");
+    auto *shape = window->findChild<QSlider *>("hoSlider1");
+    auto *stop = window->findChild<QSlider *>("slider1");
+    shape->setValue(3);
+    stop->setValue(7);
+    const QString face = game->style("bg1");
+    const QString cell = game->style("r5bg");
+    QVERIFY(face != defaultFace);
+    const QString mine = save(QStringLiteral("mine.txt"));
+
+    open(defaults);
+    QCOMPARE(shape->value(), 1);
+    QCOMPARE(stop->value(), 5);
+    QCOMPARE(game->style("bg1"), defaultFace);
+
+    open(mine);
+    QCOMPARE(shape->value(), 3);
+    QCOMPARE(stop->value(), 7);
+    QCOMPARE(game->style("bg1"), face);
+    QCOMPARE(game->style("bgTab"), face);
+    QCOMPARE(game->style("r5bg"), cell);
+    QCOMPARE(fileBytes(save(QStringLiteral("again.txt"))), fileBytes(mine));
 }
 
 void tst_KeyboardTheme::cancelledDialogsChangeNothing()
