@@ -302,6 +302,8 @@ void lexoria::buildTable(QWidget *central)
         {rainbowFormRows, rainbowFormRowCount},
         // Borders
         {borderFormRows, borderFormRowCount},
+        // Keyboard theme file
+        {themeFileFormRows, themeFileFormRowCount},
     };
     QList<std::pair<QWidget *, const WidgetRow *>> waiting;
     for (const Table &table : tables) {

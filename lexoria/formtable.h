@@ -90,6 +90,9 @@ const WidgetRow *gradientFormRows(std::size_t *count);
 // Rainbow: the Paint tab's text targets, the instructions page, the paint theme buttons.
 extern const WidgetRow rainbowFormRows[];
 extern const std::size_t rainbowFormRowCount;
+// The keyboard theme's Save and Open on the "Save / Open" tab.
+extern const WidgetRow themeFileFormRows[];
+extern const std::size_t themeFileFormRowCount;
 
 } // namespace formtable
 

@@ -147,6 +147,7 @@ lexoria::lexoria(QWidget *parent)
     // Rainbow: every paint slot starts as the general colour of its layer.
     setUpRainbow();
     setUpBorders();
+    setUpKeyboardTheme();
 
     restyle(
         ui->wallpaper, QStringLiteral("background-color: white; border:none; border-radius: 0px;"));

@@ -2,6 +2,7 @@
 #define LEXORIA_H
 
 #include "lexoria/colortargets.h"
+#include "lexoria/keyboardtheme.h"
 #include "lexoria/optionscatalogue.h"
 #include "lexoria/painttheme.h"
 #include "lexoria/stylepieces.h"
@@ -349,6 +350,19 @@ private:
     std::array<QColor, 31> savedColors;
     std::array<QColor, 31> liveColors;
     std::array<bool, 31> livePending {};
+
+    // The keyboard theme file
+    void saveKeyboard_Function();
+    void openKeyboard_Function();
+    void loadKeyboard();
+    // The theme panels ask for file names through these; tests answer without a dialog.
+    using FileNameDialog = std::function<QString(
+        QWidget *parent, const QString &caption, const QString &path, const QString &filter)>;
+    struct FileDialogs
+    {
+        FileNameDialog saveFileName;
+        FileNameDialog openFileName;
+    } fileDialogs;
 
 private:
     // The tests stand in for the colour pickers, which write the targets' colours.
@@ -758,6 +772,17 @@ private:
         int fadeInMs = 1000;
         int fadeExampleTimerId = 0;
     } fades;
+
+    // The keyboard theme file: the lines last saved or opened keep what no member holds (the
+    // texts of shapes at 0, the spare colours, fonts nobody can show).
+    void setUpKeyboardTheme();
+    std::array<QString *, keyboardtheme::lineCount + 1> keyboardThemeTexts();
+    void gatherKeyboardTheme();
+    void applyKeyboardThemeTexts(const keyboardtheme::Theme &theme);
+    void restyleKeyboardSamples();
+    keyboardtheme::Theme keyboardThemeFile = keyboardtheme::startTheme();
+    QString currentThemeName;
+    QString lastThemeName;
 
     openingWindow *openingWin = nullptr;
     instructions *instructionsWin = nullptr;
