@@ -351,6 +351,7 @@ private:
     std::array<QColor, 31> liveColors;
     std::array<bool, 31> livePending {};
 
+public:
     // The keyboard theme file
     void saveKeyboard_Function();
     void openKeyboard_Function();

@@ -374,12 +374,15 @@ void tst_Pickers::okKeepsTheColourAndEndsPainting()
     const QString rest = game->style(face);
 
     // OK of the paint picker paints the layer the Paint tab has selected, the background at
-    // start: a key at rest now shows its own (still empty) paint slot.
+    // start: a key at rest now shows its own paint slot, which starts as the keys' colour.
     QColorDialog *paint = open(23);
     paint->accept();
     QVERIFY(!paint->isVisible());
+    QVERIFY(window->painted.paintBackgroundOn);
+    QCOMPARE(window->painted.paintBackgroundText, QString("1"));
+    window->painted.paintBgStyle[k] = "background-color: red;";
     game->type(1);
-    QCOMPARE(game->style(face), QString("border-radius: 10px;"));
+    QCOMPARE(game->style(face), QString("border-radius: 10px;background-color: red;"));
 
     // OK of the keys' background picker hands the board back to the keys' colours.
     open(3)->accept();
