@@ -82,12 +82,18 @@ const WidgetRow pickerFormRows[] = {
     {Label, "colorPickerGradBottom7Caption", "frameWallpaper", 16, 182, 94, 16, "Top gradient",
         caption, "", Center},
 
-    // The game play box has little room: tool tips instead of captions.
-    {Label, "colorPicker27", "frameWallpaper_2", 20, 40, 45, 45, "", "", baseTip, ScaledContents},
-    {Label, "colorPickerGradBottom27", "frameWallpaper_2", 20, 110, 45, 45, "", "", topTip,
+    // The game play box is low: its three swatches stand in a row.
+    {Label, "colorPicker27", "frameWallpaper_2", 20, 36, 45, 45, "", "", baseTip, ScaledContents},
+    {Label, "colorPicker27Caption", "frameWallpaper_2", 0, 84, 86, 16, "Background", caption, "",
+        Center},
+    {Label, "colorPickerGradBottom27", "frameWallpaper_2", 110, 36, 45, 45, "", "", topTip,
         ScaledContents},
-    {Label, "colorPicker29", "frameWallpaper_2", 20, 180, 45, 45, "", "",
+    {Label, "colorPickerGradBottom27Caption", "frameWallpaper_2", 90, 84, 86, 16, "Top gradient",
+        caption, "", Center},
+    {Label, "colorPicker29", "frameWallpaper_2", 200, 36, 45, 45, "", "",
         "Colour of the letters in the game fields", ScaledContents},
+    {Label, "colorPicker29Caption", "frameWallpaper_2", 180, 84, 86, 16, "Letters", caption, "",
+        Center},
 
     {Label, "textShadowColorBox", "frameShadows", 1006, 8, 45, 45, "", "",
         "Colour of every checked shadow", ScaledContents},
