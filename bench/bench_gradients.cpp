@@ -2,6 +2,7 @@
 // underMouse(), as a real click finds it.
 #define QTEST_QPA_MOUSE_HANDLING
 
+#include "bench/paintwatch.h"
 #include "lexoria/hidpi.h"
 #include "lexoria/lexoria.h"
 
@@ -22,47 +23,6 @@ bool shortRun()
 {
     return qEnvironmentVariableIntValue("VORTIC_BENCH_SHORT") == 1;
 }
-
-// A frame is done when processEvents() returns after the first paint event of the window: Qt
-// paints the whole dirty region in one synchronous pass.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget *window)
-        : window(window)
-    {
-        qApp->installEventFilter(this);
-    }
-    ~PaintWatch() override { qApp->removeEventFilter(this); }
-
-    int frames() const { return paints; }
-
-    // A click delivered through the platform may already have painted by the time it returns.
-    bool waitForFrameSince(int before)
-    {
-        bool gaveUp = false;
-        QTimer guard;
-        guard.setSingleShot(true);
-        QObject::connect(&guard, &QTimer::timeout, [&gaveUp] { gaveUp = true; });
-        guard.start(10000);
-        while (paints == before && !gaveUp)
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-        return paints != before;
-    }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint && watched->isWidgetType()
-            && static_cast<QWidget *>(watched)->window() == window)
-            ++paints;
-        return false;
-    }
-
-private:
-    QWidget *window;
-    int paints = 0;
-};
 
 // Every step is timed on its own, from the user's action until the window has painted it; the
 // median and the worst step are what a player feels while dragging.

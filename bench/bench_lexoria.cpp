@@ -1,3 +1,4 @@
+#include "bench/paintwatch.h"
 #include "lexoria/hidpi.h"
 #include "lexoria/lexoria.h"
 #include "stats/progresswindow.h"
@@ -61,48 +62,6 @@ const Qt::Key lowercaseAlphabetKeys[] = {
     Qt::Key_Apostrophe, // э
     Qt::Key_Period, // ю
     Qt::Key_Z, // я
-};
-
-// Counts the paint events of one top-level window and everything in it. A frame is done when
-// processEvents() returns after the first of them: Qt paints the whole dirty region into the
-// backing store and hands it to the window system in one synchronous pass.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget *window)
-        : window(window)
-    {
-        qApp->installEventFilter(this);
-    }
-    ~PaintWatch() override { qApp->removeEventFilter(this); }
-
-    // Runs the event loop until the window has painted after this call. A generous guard
-    // only keeps a broken build from hanging CI; it judges no speed.
-    bool waitForFrame()
-    {
-        const int before = paints;
-        bool gaveUp = false;
-        QTimer guard;
-        guard.setSingleShot(true);
-        QObject::connect(&guard, &QTimer::timeout, [&gaveUp] { gaveUp = true; });
-        guard.start(10000);
-        while (paints == before && !gaveUp)
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-        return paints != before;
-    }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint && watched->isWidgetType()
-            && static_cast<QWidget *>(watched)->window() == window)
-            ++paints;
-        return false;
-    }
-
-private:
-    QWidget *window;
-    int paints = 0;
 };
 
 QMainWindow *openingWindowOf(lexoria &w)

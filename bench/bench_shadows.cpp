@@ -1,3 +1,4 @@
+#include "bench/paintwatch.h"
 #include "lexoria/lexoria.h"
 
 #include <QApplication>
@@ -19,45 +20,6 @@ bool shortRun()
 {
     return qEnvironmentVariableIntValue("VORTIC_BENCH_SHORT") == 1;
 }
-
-// A frame is done when processEvents() returns after the first paint event of the window: Qt
-// paints the whole dirty region into the backing store in one pass.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget *window)
-        : window(window)
-    {
-        qApp->installEventFilter(this);
-    }
-    ~PaintWatch() override { qApp->removeEventFilter(this); }
-
-    bool waitForFrame()
-    {
-        const int before = paints;
-        bool gaveUp = false;
-        QTimer guard;
-        guard.setSingleShot(true);
-        QObject::connect(&guard, &QTimer::timeout, [&gaveUp] { gaveUp = true; });
-        guard.start(10000);
-        while (paints == before && !gaveUp)
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-        return paints != before;
-    }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint && watched->isWidgetType()
-            && static_cast<QWidget *>(watched)->window() == window)
-            ++paints;
-        return false;
-    }
-
-private:
-    QWidget *window;
-    int paints = 0;
-};
 
 std::unique_ptr<lexoria> mainWindowShown()
 {
