@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QFontComboBox>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QSlider>
 
 #include <iterator>
@@ -36,11 +37,20 @@ constexpr FontRow fontRows[] = {
     {"fontComboBoxLowercase", "Calibri", &StylePieces::lowerFontStyle},
 };
 
-// Families whose name Qt's style sheet parser would split; they are the only ones quoted.
+// A family name is written bare, as the form writes its own, when every word of it is a style
+// sheet identifier. Anything else would make Qt drop the whole sheet: the two Windows families
+// the panel has always quoted, and on Linux the foundry-qualified entries of the font list
+// ("C059 [UKWN]") and names with digits or dots.
 QString familyPiece(const QString &family)
 {
-    if (family == QLatin1String("Old English Text MT") || family == QLatin1String("Modern No. 20"))
-        return "font-family: '" + family + "';";
+    static const QRegularExpression identifiers(
+        QStringLiteral("^[\\p{L}_-][\\p{L}\\d_-]*( [\\p{L}_-][\\p{L}\\d_-]*)*$"));
+    if (family == QLatin1String("Old English Text MT") || !identifiers.match(family).hasMatch()) {
+        QString quoted = family;
+        quoted.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+        quoted.replace(QLatin1Char('\''), QLatin1String("\\'"));
+        return "font-family: '" + quoted + "';";
+    }
     return "font-family: " + family + ";";
 }
 
