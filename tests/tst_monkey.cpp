@@ -177,6 +177,7 @@ private:
     void playRight();
     void pause();
     void answerDialogs();
+    template <typename Answer> void answerLater(QObject *context, Answer answer);
     void reopenIfGone();
     void drainAfterClose();
 
@@ -199,6 +200,8 @@ private:
     QList<QPair<Qt::Key, Qt::KeyboardModifiers>> heldKeys;
     QPointer<QWidget> hovered;
     QTimer dialogAnswerer;
+    QTimer stallWatch;
+    int actionAtLastWatch = -1;
     bool tracing = false;
     int actionNumber = 0;
 };
@@ -225,6 +228,20 @@ void tst_Monkey::initTestCase()
     QVERIFY(files.isValid());
     dialogAnswerer.setInterval(20);
     connect(&dialogAnswerer, &QTimer::timeout, this, &tst_Monkey::answerDialogs);
+
+    // A run that stops moving is killed by the test's time limit with nothing said; this says
+    // what it was stuck on first.
+    stallWatch.setInterval(60000);
+    connect(&stallWatch, &QTimer::timeout, this, [this] {
+        if (actionNumber == actionAtLastWatch) {
+            const QWidget *modal = QApplication::activeModalWidget();
+            const QWidget *popup = QApplication::activePopupWidget();
+            qWarning("no progress for a minute at action %d (modal: %s, popup: %s)", actionNumber,
+                modal ? modal->metaObject()->className() : "none",
+                popup ? popup->metaObject()->className() : "none");
+        }
+        actionAtLastWatch = actionNumber;
+    });
 }
 
 void tst_Monkey::cleanupTestCase()
@@ -549,7 +566,7 @@ void tst_Monkey::answerDialogs()
                   .arg(chosen ? QStringLiteral(" with ") + chosen->text() : QString()));
         popup->close();
         if (chosen)
-            chosen->trigger();
+            answerLater(chosen, [chosen] { chosen->trigger(); });
         return;
     }
     QWidget *modal = QApplication::activeModalWidget();
@@ -560,14 +577,14 @@ void tst_Monkey::answerDialogs()
             const QString file = testFileFor(fileDialog->nameFilters());
             trace(QStringLiteral("file dialog gets %1").arg(file));
             fileDialog->selectFile(file);
-            static_cast<QDialog *>(fileDialog)->accept();
+            answerLater(fileDialog, [fileDialog] { static_cast<QDialog *>(fileDialog)->accept(); });
             return;
         }
     } else if (auto *colours = qobject_cast<QColorDialog *>(modal)) {
         if (chance(60)) {
             colours->setCurrentColor(QColor::fromRgb(random.generate() | 0xff000000));
             trace(QStringLiteral("colour dialog gets %1").arg(colours->currentColor().name()));
-            colours->accept();
+            answerLater(colours, [colours] { colours->accept(); });
             return;
         }
     } else if (auto *box = qobject_cast<QMessageBox *>(modal)) {
@@ -577,15 +594,25 @@ void tst_Monkey::answerDialogs()
             buttons.end());
         if (QAbstractButton *button = pick(buttons)) {
             trace(QStringLiteral("message box answered %1").arg(button->text()));
-            button->click();
+            answerLater(button, [button] { button->click(); });
             return;
         }
     }
     trace(QStringLiteral("dialog %1 cancelled").arg(modal->metaObject()->className()));
-    if (auto *dialog = qobject_cast<QDialog *>(modal))
-        dialog->reject();
-    else
-        modal->close();
+    answerLater(modal, [modal] {
+        if (auto *dialog = qobject_cast<QDialog *>(modal))
+            dialog->reject();
+        else
+            modal->close();
+    });
+}
+
+// An answer runs the program's own reaction, which may open the next dialog in a nested event
+// loop. Qt never fires a timer again while its own shot is still running, so an answer given
+// from inside the answerer's shot would leave that next dialog waiting for ever.
+template <typename Answer> void tst_Monkey::answerLater(QObject *context, Answer answer)
+{
+    QTimer::singleShot(0, context, answer);
 }
 
 // A run goes on after an action that left no window to act on, as a user would start again.
@@ -629,6 +656,7 @@ void tst_Monkey::randomUserActions()
 
     window = std::make_unique<lexoria>();
     dialogAnswerer.start();
+    stallWatch.start();
     const struct
     {
         Action action;
@@ -683,6 +711,7 @@ void tst_Monkey::randomUserActions()
     for (const auto &held : qAsConst(heldKeys))
         sendKey(window.get(), QEvent::KeyRelease, held.first, held.second);
     dialogAnswerer.stop();
+    stallWatch.stop();
     window->close();
     window.reset();
     drainAfterClose();
