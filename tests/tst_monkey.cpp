@@ -720,17 +720,19 @@ void tst_Monkey::randomUserActions()
     // Nothing the program made outlives its window.
     QCOMPARE(QApplication::topLevelWidgets().size(), windowsBefore.size());
     // Qt makes these once per process, on first use, and keeps them; the audio plugin too.
-    static const QStringList processWide = {QStringLiteral("QClipboard"),
-        QStringLiteral("QDesktopScreenWidget"), QStringLiteral("QDesktopWidget"),
-        QStringLiteral("QOpenUrlHandlerRegistry"), QStringLiteral("QPanGesture"),
-        QStringLiteral("QWidgetWindow"), QStringLiteral("QFactoryLoader"),
-        QStringLiteral("QPulseAudioEngine"), QStringLiteral("QPulseAudioPlugin"),
-        // Qt SQL's shared null connection and the SQLite plugin, and the text item with which
-        // Qt Charts measures its labels: all three are function statics of Qt's own.
-        QStringLiteral("QSqlDriver"), QStringLiteral("QSQLiteDriverPlugin"),
-        QStringLiteral("QGraphicsTextItem"), QStringLiteral("QWidgetTextControl"),
-        QStringLiteral("QTextDocument"), QStringLiteral("QTextDocumentLayout"),
-        QStringLiteral("QTextFrame"), QStringLiteral("QTextImageHandler")};
+    // What a copy or cut put on the clipboard is the clipboard's own until the next copy.
+    static const QStringList processWide
+        = {QStringLiteral("QClipboard"), QStringLiteral("QMimeData"),
+            QStringLiteral("QDesktopScreenWidget"), QStringLiteral("QDesktopWidget"),
+            QStringLiteral("QOpenUrlHandlerRegistry"), QStringLiteral("QPanGesture"),
+            QStringLiteral("QWidgetWindow"), QStringLiteral("QFactoryLoader"),
+            QStringLiteral("QPulseAudioEngine"), QStringLiteral("QPulseAudioPlugin"),
+            // Qt SQL's shared null connection and the SQLite plugin, and the text item with which
+            // Qt Charts measures its labels: all three are function statics of Qt's own.
+            QStringLiteral("QSqlDriver"), QStringLiteral("QSQLiteDriverPlugin"),
+            QStringLiteral("QGraphicsTextItem"), QStringLiteral("QWidgetTextControl"),
+            QStringLiteral("QTextDocument"), QStringLiteral("QTextDocumentLayout"),
+            QStringLiteral("QTextFrame"), QStringLiteral("QTextImageHandler")};
     QStringList outlived = liveClassNames();
     for (const QString &name : objectsBefore)
         outlived.removeOne(name);
