@@ -2,7 +2,7 @@
 // sample finds the click and a bridge keeps the keys under it from seeing the pointer.
 #define QTEST_QPA_MOUSE_HANDLING
 
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -21,28 +21,6 @@ const QString radius = "border-radius: 10px;";
 const char *const paintLayers[] = {
     "rainbowBackground", "rainbowBorder", "rainbowEnglish", "rainbowLowercase", "rainbowUppercase"};
 
-void hover(QWidget *widget, QEvent::Type type)
-{
-    QEvent event(type);
-    QApplication::sendEvent(widget, &event);
-}
-
-QColorDialog *openPicker()
-{
-    for (QWidget *top : QApplication::topLevelWidgets()) {
-        if (auto *dialog = qobject_cast<QColorDialog *>(top); dialog && dialog->isVisible())
-            return dialog;
-    }
-    return nullptr;
-}
-
-// The pickers hand a live colour on at the next turn of the event loop.
-void pick(QColorDialog *picker, const QColor &colour)
-{
-    picker->setCurrentColor(colour);
-    QCoreApplication::processEvents();
-}
-
 QString rgbOf(const QColor &colour)
 {
     return QStringLiteral("rgba(%1, %2, %3,")
@@ -53,13 +31,17 @@ QString rgbOf(const QColor &colour)
 
 } // namespace
 
-class tst_Borders : public QObject
+class tst_Borders : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        makeWindow(Start::Pointed);
+        game->click("animationOff");
+    }
+    void cleanup() { closeWindow(); }
 
     void widthControlsFollowEachOther_data();
     void widthControlsFollowEachOther();
@@ -73,48 +55,10 @@ private slots:
     void bridgesKeepTheirRowUnpainted();
 
 private:
-    QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
-    QString style(const QString &name) const { return game->style(name); }
-    void clickLabel(const QString &name)
-    {
-        QWidget *label = widget(name);
-        QTest::mouseMove(label, label->rect().center());
-        QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
-    }
-    void openColourTab(int tab)
-    {
-        game->click("options");
-        game->click("menuColorMadness");
-        clickLabel(QStringLiteral("labelTab%1").arg(tab));
-    }
     // The Paint tab's layer choice; a choice the form does not have yet gets a stand-in.
     void choosePaintLayer(const char *layer, bool both = false);
     QColorDialog *startPainting(const char *layer, bool both = false);
-    void enter(const QString &name) { hover(widget(name), QEvent::Enter); }
-    void leave(const QString &name) { hover(widget(name), QEvent::Leave); }
-
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Borders::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    QTest::mouseMove(window.get(), QPoint(600, 30));
-    QTest::mouseMove(window.get(), QPoint(601, 30));
-    game = std::make_unique<GameDriver>(window.get());
-    game->click("animationOff");
-}
-
-void tst_Borders::cleanup()
-{
-    if (QColorDialog *dialog = openPicker())
-        dialog->reject();
-    game.reset();
-    window.reset();
-}
 
 void tst_Borders::choosePaintLayer(const char *layer, bool both)
 {

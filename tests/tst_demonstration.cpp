@@ -1,4 +1,4 @@
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QElapsedTimer>
 
@@ -17,19 +17,18 @@ constexpr int stepTimeout = 12000;
 
 } // namespace
 
-class tst_Demonstration : public QObject
+class tst_Demonstration : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(Start::Shown); }
+    void cleanup() { closeWindow(); }
 
     void tourLightsEachStepAndHideEndsIt();
     void startDuringTheTourEndsItForGood();
 
 private:
-    QWidget *widget(const char *name) const { return window->findChild<QWidget *>(name); }
     bool lit(const char *box) const
     {
         const QString style = game->style(box);
@@ -61,24 +60,7 @@ private:
                 QVERIFY2(!lit(box), box);
         }
     }
-
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Demonstration::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Demonstration::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 void tst_Demonstration::tourLightsEachStepAndHideEndsIt()
 {

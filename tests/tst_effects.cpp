@@ -1,4 +1,4 @@
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -40,13 +40,13 @@ void answerFileDialog(const QString &file)
 
 } // namespace
 
-class tst_Effects : public QObject
+class tst_Effects : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(); }
+    void cleanup() { closeWindow(); }
 
     void panelOpensAndCloses();
     void panelRefusedDuringGame();
@@ -66,11 +66,6 @@ private slots:
     void keyPictureOnKeysAndNone();
 
 private:
-    QLabel *label(const QString &name) const { return game->label(name); }
-    QRadioButton *radio(const QString &name) const
-    {
-        return window->findChild<QRadioButton *>(name);
-    }
     bool shown(const QString &name) const
     {
         return window->findChild<QWidget *>(name)->isVisibleTo(window.get());
@@ -80,23 +75,7 @@ private:
     bool layersHidden(int k) const;
     bool keyGone(int k) const;
     void playStrict(int n);
-
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Effects::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Effects::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 // Open the panel, pick, close the options, and give the movies the time to load the choice.
 void tst_Effects::chooseEffect(const QString &radioName)

@@ -1,5 +1,5 @@
-#include "gamedriver.h"
 #include "lexoria/layerfade.h"
+#include "paneldriver.h"
 
 #include <QCheckBox>
 #include <QGraphicsDropShadowEffect>
@@ -12,13 +12,17 @@ using keycatalogue::characterKey;
 using keycatalogue::keyOfLetter;
 using keycatalogue::letterText;
 
-class tst_Fades : public QObject
+class tst_Fades : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        makeWindow();
+        game->click("strict");
+    }
+    void cleanup() { closeWindow(); }
 
     void fadeOutKeyStaysAway();
     void fadingKeyShowsItsLook();
@@ -32,7 +36,6 @@ private slots:
     void exampleRunsOnlyWhilePanelOpen();
 
 private:
-    QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
     QStringList layerNames(int k) const;
     // The opacity a layer is seen at through its fade, or -1 when it has no fade effect.
     qreal opacity(const QString &name) const;
@@ -43,24 +46,7 @@ private:
     void play(int n);
     void playAll(int first, int last);
     QCheckBox *shadowBox() const { return window->findChild<QCheckBox *>("shadow3dOn"); }
-
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Fades::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    game = std::make_unique<GameDriver>(window.get());
-    game->click("strict");
-}
-
-void tst_Fades::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 QStringList tst_Fades::layerNames(int k) const
 {

@@ -1,4 +1,4 @@
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QLCDNumber>
 #include <QRadioButton>
@@ -29,13 +29,13 @@ QList<int> range(int from, int to)
 
 } // namespace
 
-class tst_Game : public QObject
+class tst_Game : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(); }
+    void cleanup() { closeWindow(); }
 
     void fullStrictGame_data();
     void fullStrictGame();
@@ -48,22 +48,7 @@ private slots:
 
 private:
     int lcd() const { return window->findChild<QLCDNumber *>("lcd")->intValue(); }
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Game::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Game::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 void tst_Game::fullStrictGame_data()
 {

@@ -1,4 +1,4 @@
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QRadioButton>
 
@@ -42,13 +42,13 @@ QList<int> range(int from, int to)
 
 } // namespace
 
-class tst_GameSelection : public QObject
+class tst_GameSelection : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(); }
+    void cleanup() { closeWindow(); }
 
     void buttonsChooseTheGame_data();
     void buttonsChooseTheGame();
@@ -60,22 +60,7 @@ private slots:
 
 private:
     bool shielded(const char *shield, const char *under) const;
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_GameSelection::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_GameSelection::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 bool tst_GameSelection::shielded(const char *shield, const char *under) const
 {

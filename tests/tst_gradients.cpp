@@ -2,7 +2,7 @@
 // pointer, which is how the main window finds the shape that was clicked.
 #define QTEST_QPA_MOUSE_HANDLING
 
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QCheckBox>
 #include <QRadioButton>
@@ -16,13 +16,13 @@ const QString radius = "border-radius: 10px;";
 const QString gameBorder = "border: 1px solid #6e6e6e;";
 } // namespace
 
-class tst_Gradients : public QObject
+class tst_Gradients : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(Start::Pointed); }
+    void cleanup() { closeWindow(); }
 
     void startPiecesAreTheVerticalShapeOfTheStartColours();
     void keysShapesReachTheWholeBoard_data();
@@ -40,42 +40,14 @@ private slots:
     void animateGradientSwingsAndFreezes();
 
 private:
-    QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
-    QSlider *slider(const QString &name) const { return window->findChild<QSlider *>(name); }
-    QString style(const QString &name) const { return game->style(name); }
     void check(const QString &name) { window->findChild<QAbstractButton *>(name)->click(); }
-    void clickLabel(const QString &name)
-    {
-        QWidget *label = widget(name);
-        QTest::mouseMove(label, label->rect().center());
-        QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
-    }
     // What the key-background pickers would have written.
     void setKeysColours(const QString &top, const QString &base, const QString &radialTop,
         const QString &radialBase)
     {
         window->targets.keys.bg = {base, top, radialBase, radialTop, 1, 5};
     }
-
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Gradients::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    QTest::mouseMove(window.get(), QPoint(600, 30));
-    QTest::mouseMove(window.get(), QPoint(601, 30));
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Gradients::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 void tst_Gradients::startPiecesAreTheVerticalShapeOfTheStartColours()
 {

@@ -1,4 +1,4 @@
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QRadioButton>
 
@@ -35,13 +35,13 @@ QString englishOf(int n)
 
 } // namespace
 
-class tst_Highlight : public QObject
+class tst_Highlight : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(); }
+    void cleanup() { closeWindow(); }
 
     void aidButtonsLiveOnlyDuringAGame();
     void highlightPaintsKeyAndBarCell_data();
@@ -56,22 +56,7 @@ private slots:
 
 private:
     QStringList shownLines() const;
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Highlight::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Highlight::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 QStringList tst_Highlight::shownLines() const
 {

@@ -1,4 +1,4 @@
-#include "lexoria/lexoria.h"
+#include "paneldriver.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -20,13 +20,13 @@ const QString upperFont = "font-family: Arial Unicode MS;";
 
 } // namespace
 
-class tst_Keyboard : public QObject
+class tst_Keyboard : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(Start::Built); }
+    void cleanup() { closeWindow(); }
 
     void keyMap_data();
     void keyMap();
@@ -46,22 +46,9 @@ private slots:
     void exitOnOpeningWindowEndsProgram();
 
 private:
-    QLabel *label(const QString &name) const { return window->findChild<QLabel *>(name); }
     QMap<QString, QString> allLabelStyles() const;
     int letterNumberOf(const QString &character) const;
-
-    std::unique_ptr<lexoria> window;
 };
-
-void tst_Keyboard::init()
-{
-    window = std::make_unique<lexoria>();
-}
-
-void tst_Keyboard::cleanup()
-{
-    window.reset();
-}
 
 QMap<QString, QString> tst_Keyboard::allLabelStyles() const
 {

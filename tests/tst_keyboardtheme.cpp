@@ -1,5 +1,5 @@
-#include "gamedriver.h"
 #include "lexoria/lexoria.h"
+#include "paneldriver.h"
 
 #include <QFontComboBox>
 #include <QSlider>
@@ -38,13 +38,27 @@ QList<QByteArray> linesOf(const QByteArray &bytes)
 
 } // namespace
 
-class tst_KeyboardTheme : public QObject
+class tst_KeyboardTheme : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        makeWindow(Start::Shown);
+        dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(dir->isValid());
+        // Nothing of this test may ever reach a real dialog.
+        window->fileDialogs.saveFileName = window->fileDialogs.openFileName
+            = [](QWidget *, const QString &, const QString &, const QString &) -> QString {
+            qFatal("a file dialog was opened");
+        };
+    }
+    void cleanup()
+    {
+        closeWindow();
+        dir.reset();
+    }
 
     void savedDefaultTheme_data();
     void savedDefaultTheme();
@@ -88,35 +102,10 @@ private:
         writeBytes(path, lines.join('\n') + '\n');
         return path;
     }
-    QLabel *label(const char *name) const { return game->label(QLatin1String(name)); }
 
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
     std::unique_ptr<QTemporaryDir> dir;
     QStringList asked;
 };
-
-void tst_KeyboardTheme::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    game = std::make_unique<GameDriver>(window.get());
-    dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(dir->isValid());
-    // Nothing of this test may ever reach a real dialog.
-    window->fileDialogs.saveFileName = window->fileDialogs.openFileName
-        = [](QWidget *, const QString &, const QString &, const QString &) -> QString {
-        qFatal("a file dialog was opened");
-    };
-}
-
-void tst_KeyboardTheme::cleanup()
-{
-    game.reset();
-    window.reset();
-    dir.reset();
-}
 
 void tst_KeyboardTheme::savedDefaultTheme_data()
 {

@@ -1,4 +1,4 @@
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QFontComboBox>
 #include <QSlider>
@@ -7,13 +7,13 @@
 
 using keycatalogue::keyRect;
 
-class tst_KeyShape : public QObject
+class tst_KeyShape : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(Start::Shown); }
+    void cleanup() { closeWindow(); }
 
     void fontBoxChangesItsLetters_data();
     void fontBoxChangesItsLetters();
@@ -23,8 +23,6 @@ private slots:
     void circleKeepsTheGameOnTheBoard();
 
 private:
-    QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
-    QRect rect(const QString &name) const { return widget(name)->geometry(); }
     QFontComboBox *combo(const QString &name) const
     {
         return window->findChild<QFontComboBox *>(name);
@@ -46,24 +44,7 @@ private:
         auto *slider = window->findChild<QSlider *>("sliderKeyShape");
         slider->setSliderPosition(position);
     }
-
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_KeyShape::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_KeyShape::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 void tst_KeyShape::fontBoxChangesItsLetters_data()
 {

@@ -2,7 +2,7 @@
 // label under the pointer, which is how the main window finds what was clicked.
 #define QTEST_QPA_MOUSE_HANDLING
 
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QApplication>
 
@@ -32,21 +32,15 @@ struct Mode
 const Mode modes[]
     = {{"rcNone", "none"}, {"rcRussian", "russian2"}, {"rcEnglish", "english"}, {"rcBoth", "both"}};
 
-void hover(QWidget *widget, QEvent::Type type)
-{
-    QEvent event(type);
-    QApplication::sendEvent(widget, &event);
-}
-
 } // namespace
 
-class tst_Mouse : public QObject
+class tst_Mouse : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(Start::Pointed); }
+    void cleanup() { closeWindow(); }
 
     void hoverLightsAndLeaveRestores_data();
     void hoverLightsAndLeaveRestores();
@@ -66,30 +60,11 @@ private slots:
     void linePositionSamplesMoveTheLines();
 
 private:
-    QLabel *label(const QString &name) const { return window->findChild<QLabel *>(name); }
     Styles allStyles() const;
     QStringList visibleMarks() const;
     void moveTo(const QString &name);
     void clickOn(const QString &name);
-
-    std::unique_ptr<lexoria> window;
 };
-
-void tst_Mouse::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    // The first move into a new window only tells Qt where the pointer is, and a move to where
-    // the pointer already was is dropped; enter and leave follow from the next move on.
-    QTest::mouseMove(window.get(), QPoint(600, 30));
-    QTest::mouseMove(window.get(), QPoint(601, 30));
-}
-
-void tst_Mouse::cleanup()
-{
-    window.reset();
-}
 
 Styles tst_Mouse::allStyles() const
 {

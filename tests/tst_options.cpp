@@ -2,7 +2,7 @@
 // the pointer, which is how the main window finds the tab that was clicked.
 #define QTEST_QPA_MOUSE_HANDLING
 
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QCheckBox>
 #include <QGraphicsDropShadowEffect>
@@ -31,13 +31,13 @@ const QString tabBlueHover
 
 } // namespace
 
-class tst_Options : public QObject
+class tst_Options : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(Start::Pointed); }
+    void cleanup() { closeWindow(); }
 
     void menuSlidesInAndOut();
     void reopeningWaitsForTheMenuToClose();
@@ -50,46 +50,8 @@ private slots:
     void bridgesLieOverTheKeysWhileChecked();
 
 private:
-    QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
-    QRect rect(const QString &name) const { return widget(name)->geometry(); }
     bool visible(const QString &name) const { return widget(name)->isVisible(); }
-    void hover(const QString &name, QEvent::Type type)
-    {
-        QEvent event(type);
-        QApplication::sendEvent(widget(name), &event);
-    }
-    void clickLabel(const QString &name)
-    {
-        QWidget *label = widget(name);
-        QTest::mouseMove(label, label->rect().center());
-        QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
-    }
-    void openPanel(const QString &button)
-    {
-        game->click("options");
-        game->click(button);
-    }
-
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Options::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    // The first move only tells Qt where the pointer is; enter and leave follow from the next.
-    QTest::mouseMove(window.get(), QPoint(600, 30));
-    QTest::mouseMove(window.get(), QPoint(601, 30));
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Options::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 void tst_Options::menuSlidesInAndOut()
 {

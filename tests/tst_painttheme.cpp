@@ -1,4 +1,4 @@
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include "lexoria/painttheme.h"
 
@@ -68,13 +68,26 @@ bool writeFile(const QString &path, const QByteArray &bytes)
 
 } // namespace
 
-class tst_PaintTheme : public QObject
+class tst_PaintTheme : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        makeWindow(Start::Built);
+        window->setFileAsker([this](const lexoria::FileQuestion &question) {
+            questions.append(question);
+            return answer;
+        });
+        dir = std::make_unique<QTemporaryDir>();
+        questions.clear();
+    }
+    void cleanup()
+    {
+        closeWindow();
+        dir.reset();
+    }
 
     void linesGoBackToTheirMembers();
     void readingIsBoundedWhateverTheInput_data();
@@ -104,31 +117,10 @@ private:
         game->click("savePaint");
     }
 
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
     std::unique_ptr<QTemporaryDir> dir;
     QString answer;
     QList<lexoria::FileQuestion> questions;
 };
-
-void tst_PaintTheme::init()
-{
-    window = std::make_unique<lexoria>();
-    window->setFileAsker([this](const lexoria::FileQuestion &question) {
-        questions.append(question);
-        return answer;
-    });
-    game = std::make_unique<GameDriver>(window.get());
-    dir = std::make_unique<QTemporaryDir>();
-    questions.clear();
-}
-
-void tst_PaintTheme::cleanup()
-{
-    game.reset();
-    window.reset();
-    dir.reset();
-}
 
 // What the user sees of the keyboard: every face, letter, label and bar cell.
 QStringList tst_PaintTheme::keyboardLooks() const

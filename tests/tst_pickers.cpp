@@ -1,7 +1,7 @@
 // Clicks go through the platform layer, so that underMouse() holds for the swatch under the
 // pointer, which is how the main window finds the picker to open.
 #define QTEST_QPA_MOUSE_HANDLING
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QColorDialog>
 
@@ -20,13 +20,13 @@ QString englishLabelOf(int n)
 
 } // namespace
 
-class tst_Pickers : public QObject
+class tst_Pickers : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(Start::Pointed); }
+    void cleanup() { closeWindow(); }
     void pickersAreMadeAsListed_data();
     void pickersAreMadeAsListed();
     void swatchOpensItsPicker();
@@ -56,32 +56,7 @@ private:
         window->picker(N)->setCurrentColor(colour);
         QCoreApplication::processEvents();
     }
-    void clickLabel(const QString &name)
-    {
-        QWidget *label = window->findChild<QWidget *>(name);
-        QTest::mouseMove(label, label->rect().center());
-        QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
-    }
-
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Pickers::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    QTest::mouseMove(window.get(), QPoint(600, 30));
-    QTest::mouseMove(window.get(), QPoint(601, 30));
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Pickers::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 void tst_Pickers::pickersAreMadeAsListed_data()
 {

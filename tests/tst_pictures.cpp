@@ -1,7 +1,7 @@
 // Clicks go through the platform layer, so that underMouse() holds for the label clicked.
 #define QTEST_QPA_MOUSE_HANDLING
 
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -19,12 +19,6 @@ const QString rain = ":/new/prefix1/rain.gif";
 const QString blue = "border: 1px solid blue;";
 const QString black = "border: 1px solid black;";
 
-void hover(QWidget *widget, QEvent::Type type)
-{
-    QEvent event(type);
-    QApplication::sendEvent(widget, &event);
-}
-
 QByteArray resource(const QString &path)
 {
     QFile file(path);
@@ -35,13 +29,24 @@ QByteArray resource(const QString &path)
 
 } // namespace
 
-class tst_Pictures : public QObject
+class tst_Pictures : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        makeWindow(Start::Pointed);
+        dir = std::make_unique<QTemporaryDir>();
+        filtersAsked.clear();
+        game->click("menuPhotos");
+        QTRY_VERIFY(label("displayKeys")->isVisible());
+    }
+    void cleanup()
+    {
+        closeWindow();
+        dir.reset();
+    }
 
     void suppliedGifOnEachTarget_data();
     void suppliedGifOnEachTarget();
@@ -56,43 +61,15 @@ private slots:
     void xRayVisionClearsTheWindowUntilThePanelCloses();
 
 private:
-    QLabel *label(const QString &name) const { return window->findChild<QLabel *>(name); }
-    QRadioButton *radio(const QString &name) const
-    {
-        return window->findChild<QRadioButton *>(name);
-    }
     bool shown(const QString &name) const { return !label(name)->isHidden(); }
     void clickOn(const QString &name);
     // A file the test makes from a resource, or from bytes of its own.
     QString makeFile(const QString &name, const QByteArray &bytes);
     void answer(const QString &file);
 
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
     std::unique_ptr<QTemporaryDir> dir;
     QStringList filtersAsked;
 };
-
-void tst_Pictures::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    QTest::mouseMove(window.get(), QPoint(600, 30));
-    QTest::mouseMove(window.get(), QPoint(601, 30));
-    game = std::make_unique<GameDriver>(window.get());
-    dir = std::make_unique<QTemporaryDir>();
-    filtersAsked.clear();
-    game->click("menuPhotos");
-    QTRY_VERIFY(label("displayKeys")->isVisible());
-}
-
-void tst_Pictures::cleanup()
-{
-    game.reset();
-    window.reset();
-    dir.reset();
-}
 
 void tst_Pictures::clickOn(const QString &name)
 {

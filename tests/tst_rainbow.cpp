@@ -1,7 +1,7 @@
 // Clicks go through the platform layer, so that underMouse() holds for the swatch clicked.
 #define QTEST_QPA_MOUSE_HANDLING
 
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QColorDialog>
 #include <QRadioButton>
@@ -9,13 +9,18 @@
 
 #include <memory>
 
-class tst_Rainbow : public QObject
+class tst_Rainbow : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        makeWindow(Start::Shown);
+        window->setFileAsker(
+            [this](const lexoria::FileQuestion &) { return dir.filePath("t.txt"); });
+    }
+    void cleanup() { closeWindow(); }
 
     void aTextTargetTurnsItsLayerOn_data();
     void aTextTargetTurnsItsLayerOn();
@@ -33,36 +38,9 @@ private:
     }
     // The paint flags as a save writes them, English, upper, lower, background, border.
     QStringList savedFlags();
-    QRadioButton *radio(const char *name) const
-    {
-        return window->findChild<QRadioButton *>(QLatin1String(name));
-    }
-    void clickLabel(const QString &name)
-    {
-        QWidget *label = window->findChild<QWidget *>(name);
-        QTest::mouseMove(label, label->rect().center());
-        QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
-    }
 
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
     QTemporaryDir dir;
 };
-
-void tst_Rainbow::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    window->setFileAsker([this](const lexoria::FileQuestion &) { return dir.filePath("t.txt"); });
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Rainbow::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 QStringList tst_Rainbow::savedFlags()
 {

@@ -1,5 +1,5 @@
-#include "gamedriver.h"
 #include "lexoria/linecatalogue.h"
+#include "paneldriver.h"
 
 #include <cstdlib>
 #include <memory>
@@ -31,13 +31,13 @@ int replayDraw(int modulus, int first, int last)
 
 } // namespace
 
-class tst_RandomGame : public QObject
+class tst_RandomGame : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(); }
+    void cleanup() { closeWindow(); }
 
     void firstLetterInsideItsGroup_data();
     void firstLetterInsideItsGroup();
@@ -45,22 +45,7 @@ private slots:
     void strictGameEndsAtTwoHundred();
 
 private:
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_RandomGame::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_RandomGame::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 void tst_RandomGame::firstLetterInsideItsGroup_data()
 {

@@ -2,7 +2,7 @@
 // pointer, which is how the main window finds a corner label or a theme that was clicked.
 #define QTEST_QPA_MOUSE_HANDLING
 
-#include "gamedriver.h"
+#include "paneldriver.h"
 
 #include <QCheckBox>
 #include <QGraphicsDropShadowEffect>
@@ -11,13 +11,13 @@
 
 #include <memory>
 
-class tst_Shadows : public QObject
+class tst_Shadows : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { makeWindow(Start::Pointed); }
+    void cleanup() { closeWindow(); }
 
     void groupCastsItsShadow_data();
     void groupCastsItsShadow();
@@ -32,27 +32,13 @@ private slots:
     void themeThreeCastsOddAndEvenApart();
 
 private:
-    QWidget *widget(const QString &name) const { return window->findChild<QWidget *>(name); }
     QGraphicsDropShadowEffect *shadow(const QString &name) const
     {
         return qobject_cast<QGraphicsDropShadowEffect *>(widget(name)->graphicsEffect());
     }
-    QCheckBox *box(const QString &name) const { return window->findChild<QCheckBox *>(name); }
-    QRadioButton *radio(const QString &name) const
-    {
-        return window->findChild<QRadioButton *>(name);
-    }
-    QSlider *slider(const QString &name) const { return window->findChild<QSlider *>(name); }
-    void clickLabel(const QString &name)
-    {
-        QWidget *label = widget(name);
-        QTest::mouseMove(label, label->rect().center());
-        QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
-    }
     void openShadows()
     {
-        game->click("options");
-        game->click("menuShadows");
+        openPanel("menuShadows");
         QTRY_COMPARE(widget("frameShadows")->pos(), QPoint(0, 0));
         QTRY_VERIFY(widget("frameShadows")->isVisible());
     }
@@ -67,26 +53,7 @@ private:
             .arg(effect->offset().x())
             .arg(effect->offset().y());
     }
-
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Shadows::init()
-{
-    window = std::make_unique<lexoria>();
-    window->openLexoria();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    QTest::mouseMove(window.get(), QPoint(600, 30));
-    QTest::mouseMove(window.get(), QPoint(601, 30));
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Shadows::cleanup()
-{
-    game.reset();
-    window.reset();
-}
 
 void tst_Shadows::groupCastsItsShadow_data()
 {

@@ -1,6 +1,6 @@
-#include "gamedriver.h"
 #include "lexoria/keysound.h"
 #include "lexoria/soundbank.h"
+#include "paneldriver.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -41,21 +41,23 @@ void answerFileDialog(const QString &file)
     QTimer::singleShot(0, *answer);
 }
 
-void hover(QWidget *widget, QEvent::Type type)
-{
-    QEvent event(type);
-    QApplication::sendEvent(widget, &event);
-}
-
 } // namespace
 
-class tst_Sound : public QObject
+class tst_Sound : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        makeWindow(Start::Built);
+        spy = std::make_unique<QSignalSpy>(window.get(), &lexoria::soundPlayed);
+    }
+    void cleanup()
+    {
+        spy.reset();
+        closeWindow();
+    }
 
     void keyPressPlaysChosenSound_data();
     void keyPressPlaysChosenSound();
@@ -72,29 +74,12 @@ private slots:
     void panelOpensAndParks();
 
 private:
-    template <class T> T *find(const QString &name) const { return window->findChild<T *>(name); }
     QString lastSound() const { return spy->isEmpty() ? "<none>" : spy->last().at(0).toString(); }
     QString copyOf(const char *file);
 
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
     std::unique_ptr<QSignalSpy> spy;
     QTemporaryDir scratch;
 };
-
-void tst_Sound::init()
-{
-    window = std::make_unique<lexoria>();
-    game = std::make_unique<GameDriver>(window.get());
-    spy = std::make_unique<QSignalSpy>(window.get(), &lexoria::soundPlayed);
-}
-
-void tst_Sound::cleanup()
-{
-    spy.reset();
-    game.reset();
-    window.reset();
-}
 
 QString tst_Sound::copyOf(const char *file)
 {

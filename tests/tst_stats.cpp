@@ -1,4 +1,4 @@
-#include "gamedriver.h"
+#include "paneldriver.h"
 #include "stats/missmap.h"
 #include "stats/progresswindow.h"
 #include "stats/queries.h"
@@ -82,13 +82,23 @@ void answerConfirmation(bool forget)
 
 } // namespace
 
-class tst_Stats : public QObject
+class tst_Stats : public QObject, public PanelDriver
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        dir = std::make_unique<QTemporaryDir>();
+        makeWindow(Start::Built);
+        window->statistics()->setDatabasePath(path());
+        window->openLexoria();
+    }
+    void cleanup()
+    {
+        closeWindow();
+        dir.reset();
+    }
 
     void playedGameLeavesItsEntries_data();
     void playedGameLeavesItsEntries();
@@ -104,25 +114,7 @@ private:
     QString path() const { return dir->filePath("history.sqlite"); }
 
     std::unique_ptr<QTemporaryDir> dir;
-    std::unique_ptr<lexoria> window;
-    std::unique_ptr<GameDriver> game;
 };
-
-void tst_Stats::init()
-{
-    dir = std::make_unique<QTemporaryDir>();
-    window = std::make_unique<lexoria>();
-    window->statistics()->setDatabasePath(path());
-    window->openLexoria();
-    game = std::make_unique<GameDriver>(window.get());
-}
-
-void tst_Stats::cleanup()
-{
-    game.reset();
-    window.reset();
-    dir.reset();
-}
 
 // Games in the past: а found fast and never missed, б missed for ф twice and found slowly,
 // в asked once and typed as а.
