@@ -6,10 +6,15 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QDir>
 #include <QRadioButton>
 #include <QSlider>
 
+#include <csignal>
+#include <functional>
 #include <memory>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 // The base of a test class that works the main window and its option panels as a player does.
 // Each test function gets a window of its own: make one in init(), close it in cleanup().
@@ -100,6 +105,52 @@ protected:
     {
         picker->setCurrentColor(colour);
         QCoreApplication::processEvents();
+    }
+
+    static QByteArray fileBytes(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static void writeBytes(const QString &path, const QByteArray &bytes)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), qint64(bytes.size()));
+    }
+    // A file the program never wrote, at path: "empty", "binary", "huge" (200 MB without a line
+    // break), "pipe" (one nobody writes to) or "folder".
+    static void makeStrangeFile(const QString &path, const QString &kind)
+    {
+        if (kind == "empty") {
+            writeBytes(path, QByteArray());
+        } else if (kind == "binary") {
+            QByteArray bytes;
+            for (int i = 0; i < 100000; ++i)
+                bytes += char((i * 7919) >> 3);
+            writeBytes(path, bytes);
+        } else if (kind == "huge") {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            QVERIFY(file.resize(200LL * 1024 * 1024));
+        } else if (kind == "pipe") {
+            QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        } else {
+            QVERIFY(QDir().mkpath(path));
+        }
+    }
+    // Runs save on a disk that fills up after a few hundred bytes, for root as for anyone.
+    static void onFullDisk(const std::function<void()> &save)
+    {
+        rlimit old {};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &old), 0);
+        const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit small = old;
+        small.rlim_cur = 512;
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        save();
+        setrlimit(RLIMIT_FSIZE, &old);
+        std::signal(SIGXFSZ, oldHandler);
     }
 
     std::unique_ptr<lexoria> window;

@@ -1,14 +1,5 @@
 #include "paneldriver.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QtTest>
-
-#include <memory>
-
 namespace {
 
 const QString keysGradient = "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, "
@@ -92,19 +83,14 @@ void tst_Keyboard::keyMap_data()
         int shiftedCode;
         const char *shifted;
     };
+    // The keys whose Russian signs differ from the English ones, and one that keeps them.
     const Sign signs[] = {
         {27, '`', "ё", '~', "Ё"},
-        {28, '1', "1", '!', "!"},
         {29, '2', "2", '@', "\""},
         {30, '3', "3", '#', "№"},
         {31, '4', "4", '$', ";"},
-        {32, '5', "5", '%', "%"},
         {33, '6', "6", '^', ":"},
         {34, '7', "7", '&', "?"},
-        {35, '8', "8", '*', "*"},
-        {36, '9', "9", '(', "("},
-        {37, '0', "0", ')', ")"},
-        {38, '-', "-", '_', "_"},
         {39, '=', "=", '+', "+"},
         {40, '[', "х", '{', "Х"},
         {41, ']', "ъ", '}', "Ъ"},
@@ -166,7 +152,7 @@ void tst_Keyboard::keyMap()
 void tst_Keyboard::unmappedKeysChangeNothing()
 {
     const QMap<QString, QString> before = allLabelStyles();
-    const QString number = window->findChild<QLabel *>("letterOfAlphabet2")->text();
+    const QString number = label("letterOfAlphabet2")->text();
     for (int code :
         {int(Qt::Key_Tab), int(Qt::Key_Return), int(Qt::Key_Backspace), int(Qt::Key_Shift),
             int(Qt::Key_F1), int(Qt::Key_Left), 0x0430 /* а from a Russian layout */}) {
@@ -176,7 +162,7 @@ void tst_Keyboard::unmappedKeysChangeNothing()
         QApplication::sendEvent(window.get(), &release);
     }
     QCOMPARE(allLabelStyles(), before);
-    QCOMPARE(window->findChild<QLabel *>("letterOfAlphabet2")->text(), number);
+    QCOMPARE(label("letterOfAlphabet2")->text(), number);
     QCOMPARE(window->findChild<QLineEdit *>("leUser")->text(), QString());
 }
 
@@ -190,15 +176,16 @@ void tst_Keyboard::pressedAndRestLooks_data()
     QTest::addColumn<QString>("pressedLetter");
     QTest::addColumn<QString>("restLetter");
 
+    // clang-format off
     QTest::newRow("lower row а") << int(Qt::Key_F) << int(Qt::NoModifier) << 1 << 34 << 6
-                                 << "color: blue;"
-                                 << "color: white;";
+        << "color: blue;" << "color: white;";
     QTest::newRow("lower row ж") << int(Qt::Key_Semicolon) << 0 << 8 << 41 << 43 << "color: blue;"
-                                 << "color: white;";
+        << "color: white;";
     QTest::newRow("upper row Ж") << int(Qt::Key_Colon) << int(Qt::ShiftModifier) << 41 << 8 << 43
-                                 << "color: blue;" + upperFont << "color: white;" + upperFont;
+        << "color: blue;" + upperFont << "color: white;" + upperFont;
     QTest::newRow("sign \"") << int(Qt::Key_At) << int(Qt::ShiftModifier) << 80 << 68 << 29
-                             << "color: blue;" + upperFont << "color: white;" + upperFont;
+        << "color: blue;" + upperFont << "color: white;" + upperFont;
+    // clang-format on
 }
 
 void tst_Keyboard::pressedAndRestLooks()
@@ -233,7 +220,7 @@ void tst_Keyboard::pressedAndRestLooks()
 
 void tst_Keyboard::flashRestoresAfterDelay()
 {
-    window->findChild<QRadioButton *>("keyFlash")->setChecked(true);
+    radio("keyFlash")->setChecked(true);
     QTest::keyPress(window.get(), Qt::Key_F);
     QTest::keyRelease(window.get(), Qt::Key_F);
     QCOMPARE(label("bg6")->styleSheet(), pressedFace);
@@ -250,13 +237,15 @@ void tst_Keyboard::letterNumberLine_data()
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("expected");
 
+    // clang-format off
     QTest::newRow("а") << QList<int> {Qt::Key_F} << 0 << "Letter-number: 1";
     QTest::newRow("Ж") << QList<int> {Qt::Key_Colon} << int(Qt::ShiftModifier)
-                       << "Letter-number: 8";
+        << "Letter-number: 8";
     QTest::newRow("ё") << QList<int> {Qt::Key_QuoteLeft} << 0 << "Letter-number: 7";
     QTest::newRow("Я") << QList<int> {Qt::Key_Z} << int(Qt::ShiftModifier) << "Letter-number: 33";
-    QTest::newRow("digit keeps the number")
-        << QList<int> {Qt::Key_T, Qt::Key_5} << 0 << "Letter-number: 6";
+    QTest::newRow("digit keeps the number") << QList<int> {Qt::Key_T, Qt::Key_5} << 0
+        << "Letter-number: 6";
+    // clang-format on
 }
 
 void tst_Keyboard::letterNumberLine()
@@ -272,7 +261,7 @@ void tst_Keyboard::letterNumberLine()
 
 void tst_Keyboard::keyLayersStackFacesUnderLetters()
 {
-    const QObjectList stack = window->findChild<QWidget *>("centralWidget")->children();
+    const QObjectList stack = widget("centralWidget")->children();
     auto z = [&stack, this](const char *name) { return stack.indexOf(label(name)); };
     QVERIFY(z("wallpaper") == 0);
     QVERIFY(z("bg6") < z("img6"));
@@ -293,20 +282,12 @@ void tst_Keyboard::keyboardAndBarGeometry()
     // Letters sit on their key (one exception, drawn two pixels high), bar cells in rows.
     QCOMPARE(label("r1_2")->geometry(), QRect(456, 514, 54, 54));
     QCOMPARE(label("r29_2")->geometry(), QRect(332, 512, 54, 54));
-    QCOMPARE(label("bg42")->geometry(), QRect(982, 454, 74, 54));
-    QCOMPARE(label("r92_2")->text(), QString("\\  "));
-    QCOMPARE(label("r44_3")->text(), QString("  '"));
     QCOMPARE(label("r34")->geometry(), QRect(144, 266, 28, 28));
     QCOMPARE(label("r33")->geometry(), QRect(144 + 32 * 28, 294, 28, 28));
-    QCOMPARE(label("r93")->geometry(), QRect(144 + 13 * 28, 330, 28, 28));
     QCOMPARE(label("r92")->geometry(), QRect(144 + 14 * 28, 358, 28, 28));
-    QCOMPARE(label("r2")->margin(), 3);
-    QCOMPARE(label("r1")->text(), QString("а"));
-    QCOMPARE(label("r94")->text(), QString("/"));
     QCOMPARE(label("bgSpacebar")->geometry(), QRect(474, 634, 228, 54));
     QCOMPARE(label("displayNone48")->geometry(), QRect(952, 394, 102, 54)); // Backspace
     QCOMPARE(label("pulsate54")->geometry(), QRect(538, 608, 96, 96));
-    QCOMPARE(label("r55_2")->styleSheet(), QString("color: white;font-family: Arial Unicode MS;"));
 }
 
 void tst_Keyboard::windowIsFixedAndHelpShowsOpeningWindow()
@@ -334,15 +315,11 @@ void tst_Keyboard::readingWindowsOpenAndClose_data()
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("closer");
 
-    QTest::newRow("instructions") << "openInstructions"
-                                  << "instructions"
-                                  << "mgExitButton";
-    QTest::newRow("self-explore") << "owInstructionsForSE"
-                                  << "selfExplore"
-                                  << "seExitbutton";
-    QTest::newRow("about") << "owAboutButton"
-                           << "aboutWindow"
-                           << "awExitButton";
+    // clang-format off
+    QTest::newRow("instructions") << "openInstructions" << "instructions" << "mgExitButton";
+    QTest::newRow("self-explore") << "owInstructionsForSE" << "selfExplore" << "seExitbutton";
+    QTest::newRow("about") << "owAboutButton" << "aboutWindow" << "awExitButton";
+    // clang-format on
 }
 
 void tst_Keyboard::readingWindowsOpenAndClose()
@@ -377,13 +354,14 @@ void tst_Keyboard::panesHideAndShow_data()
     QTest::addColumn<QString>("button");
     QTest::addColumn<QStringList>("panes");
 
-    QTest::newRow("left instructions")
-        << "buttonInstructionsLeft" << QStringList {"labelInstructionsLeft"};
-    QTest::newRow("right instructions")
-        << "buttonInstructionsRight" << QStringList {"labelInstructionsRight"};
+    // clang-format off
+    QTest::newRow("left instructions") << "buttonInstructionsLeft"
+        << QStringList {"labelInstructionsLeft"};
+    QTest::newRow("right instructions") << "buttonInstructionsRight"
+        << QStringList {"labelInstructionsRight"};
     QTest::newRow("a key's map") << "aKeysMap"
-                                 << QStringList {"aKeysMap2", "aKeysMap3", "aKeysMap4", "aKeysMap5",
-                                        "aKeysMapShift", "aKeysMapNormal", "aKeysMapText"};
+        << QStringList {"aKeysMap2", "aKeysMap3", "aKeysMap4", "aKeysMap5", "aKeysMapShift", "aKeysMapNormal", "aKeysMapText"};
+    // clang-format on
 }
 
 void tst_Keyboard::panesHideAndShow()

@@ -6,27 +6,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 namespace {
 
 const QString defaultKeysBg = verticalGradient("black", ".5", "black");
-
-QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
-}
 
 QList<QByteArray> linesOf(const QByteArray &bytes)
 {
@@ -298,22 +282,7 @@ void tst_KeyboardTheme::anyFileOpensSafely()
 {
     QFETCH(QString, kind);
     const QString path = dir->filePath(kind + ".txt");
-    if (kind == "empty") {
-        writeBytes(path, QByteArray());
-    } else if (kind == "binary") {
-        QByteArray bytes;
-        for (int i = 0; i < 100000; ++i)
-            bytes += char((i * 7919) >> 3);
-        writeBytes(path, bytes);
-    } else if (kind == "huge") {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.resize(200LL * 1024 * 1024));
-    } else if (kind == "pipe") {
-        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-    } else {
-        QVERIFY(QDir(dir->path()).mkdir(kind + ".txt"));
-    }
+    makeStrangeFile(path, kind);
     QElapsedTimer clock;
     clock.start();
     open(path);
@@ -331,16 +300,7 @@ void tst_KeyboardTheme::failedSaveKeepsTheOldFile()
     const QString path = dir->filePath("theme.txt");
     writeBytes(path, "the old theme\n");
 
-    // A disk that fills up: writes past a few hundred bytes fail.
-    rlimit old {};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &old), 0);
-    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit small = old;
-    small.rlim_cur = 512;
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
-    save("theme.txt");
-    setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, oldHandler);
+    onFullDisk([this] { save("theme.txt"); });
 
     QCOMPARE(fileBytes(path), QByteArray("the old theme\n"));
     QCOMPARE(QDir(dir->path()).entryList(QDir::Files), QStringList {"theme.txt"});

@@ -65,61 +65,40 @@ void tst_Shadows::groupCastsItsShadow_data()
     QTest::addColumn<QString>("notShaded");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("English, start corner and size")
-        << "textShadowEnglish"
-        << "bottomRightEng"
+    // clang-format off
+    QTest::newRow("English, start corner and size") << "textShadowEnglish" << "bottomRightEng"
         << "sliderTextShadowEng" << 2 << QStringList {"r6_3", "labelEnter", "aKeysMap4"} << "r1_2"
         << "#484848 at 4,4";
-    QTest::newRow("Russian upper, top right, far")
-        << "textShadowLexoria"
-        << "topRightLexKey"
+    QTest::newRow("Russian upper, top right, far") << "textShadowLexoria" << "topRightLexKey"
         << "sliderTextShadowLexKey" << 4 << QStringList {"r34_2", "r94_2", "aKeysMap2"} << "r1_2"
         << "#484848 at 6,-6";
-    QTest::newRow("Russian lower, bottom left")
-        << "textShadowLexoriaLow"
-        << "bottomLeftLexLowKey"
+    QTest::newRow("Russian lower, bottom left") << "textShadowLexoriaLow" << "bottomLeftLexLowKey"
         << "sliderTextShadowLexLowKey" << 1 << QStringList {"r1_2", "r92_2", "aKeysMap3"} << "r34_2"
         << "#484848 at -3,3";
-    QTest::newRow("bar upper letters, top left")
-        << "textShadowLexoriaAbc"
-        << "topLeftLexAbc"
+    QTest::newRow("bar upper letters, top left") << "textShadowLexoriaAbc" << "topLeftLexAbc"
         << "sliderTextShadowLexAbc" << 3 << QStringList {"r34", "r79"} << "r1"
         << "#484848 at -5,-5";
-    QTest::newRow("bar lower letters")
-        << "textShadowLexoriaLowAbc"
-        << "bottomRightLexLowAbc"
+    QTest::newRow("bar lower letters") << "textShadowLexoriaLowAbc" << "bottomRightLexLowAbc"
         << "sliderTextShadowLexLowAbc" << 0 << QStringList {"r1", "r92"} << "r34"
         << "#484848 at 2,2";
-    QTest::newRow("bar upper cells start one nearer")
-        << "textShadowLexoriaAbcBg"
-        << "topRightAbc"
+    QTest::newRow("bar upper cells start one nearer") << "textShadowLexoriaAbcBg" << "topRightAbc"
         << "sliderTextShadowAbcBg" << 0 << QStringList {"r34bg", "r93bg"} << "r1bg"
         << "#484848 at 1,-1";
-    QTest::newRow("bar lower cells")
-        << "textShadowLexoriaLowAbcBg"
-        << "bottomLeftLowAbc"
+    QTest::newRow("bar lower cells") << "textShadowLexoriaLowAbcBg" << "bottomLeftLowAbc"
         << "sliderTextShadowLowAbcBg" << 4 << QStringList {"r1bg", "r67bg"} << "r34bg"
         << "#484848 at -5,5";
-    QTest::newRow("Odd faces") << "shadowKeys"
-                               << "bottomLeft"
-                               << "sliderTextShadowKeyboardBg" << 2
-                               << QStringList {"bg1", "bgCapsLock", "bgBackSpace"} << "bg2"
-                               << "#484848 at -4,4";
-    QTest::newRow("Even faces and the key map")
-        << "shadowKeys_2"
-        << "topLeft_2"
+    QTest::newRow("Odd faces") << "shadowKeys" << "bottomLeft" << "sliderTextShadowKeyboardBg" << 2
+        << QStringList {"bg1", "bgCapsLock", "bgBackSpace"} << "bg2" << "#484848 at -4,4";
+    QTest::newRow("Even faces and the key map") << "shadowKeys_2" << "topLeft_2"
         << "sliderTextShadowKeyboardBg_2" << 0 << QStringList {"bg2", "bgTab", "aKeysMap5"} << "bg1"
         << "#484848 at -2,-2";
-    QTest::newRow("Match This text") << "tsGamePlayText"
-                                     << "bottomRightGpText"
-                                     << "sliderTsGpText" << 0 << QStringList {"leMatch"} << "leUser"
-                                     << "#484848 at 1,1";
+    QTest::newRow("Match This text") << "tsGamePlayText" << "bottomRightGpText" << "sliderTsGpText"
+        << 0 << QStringList {"leMatch"} << "leUser" << "#484848 at 1,1";
     // The start colour of the game play backgrounds lacks its hash and names no colour.
-    QTest::newRow("Your Entry background")
-        << "tsGamePlayBg_2"
-        << "topLeftGpBg_2"
-        << "sliderTsGpBg_2" << 4 << QStringList {"leUserBg"} << "leMatchBg"
-        << "invalid at -6,-6";
+    QTest::newRow("Your Entry background") << "tsGamePlayBg_2" << "topLeftGpBg_2"
+        << "sliderTsGpBg_2" << 4
+        << QStringList {"leUserBg"} << "leMatchBg" << "invalid at -6,-6";
+    // clang-format on
 }
 
 void tst_Shadows::groupCastsItsShadow()
@@ -178,36 +157,19 @@ void tst_Shadows::tricksTurnPartOfTheFaces_data()
     QTest::addColumn<QString>("kept");
     QTest::addColumn<QString>("keptSeen");
 
-    QTest::newRow("Odd, 1, bottom right") << "shadowKeys"
-                                          << "bottomRight"
-                                          << "sliderTricks" << 1 << "bgCapsLock"
-                                          << "#484848 at -4,4"
-                                          << "bg1"
-                                          << "#484848 at 4,4";
-    QTest::newRow("Odd, 2, top left") << "shadowKeys"
-                                      << "topLeft"
-                                      << "sliderTricks" << 2 << "bg6"
-                                      << "#484848 at -4,4"
-                                      << "bg4"
-                                      << "#484848 at -4,-4";
-    QTest::newRow("Even, 1, top right") << "shadowKeys_2"
-                                        << "topRight_2"
-                                        << "sliderTricks_2" << 1 << "bgTab"
-                                        << "#484848 at -4,-4"
-                                        << "bgShiftRight"
-                                        << "#484848 at 4,-4";
-    QTest::newRow("Even, 2, bottom left") << "shadowKeys_2"
-                                          << "bottomLeft_2"
-                                          << "sliderTricks_2" << 2 << "bg9"
-                                          << "#484848 at 4,-4"
-                                          << "bg2"
-                                          << "#484848 at -4,4";
-    QTest::newRow("Even, 0: all alike") << "shadowKeys_2"
-                                        << "bottomLeft_2"
-                                        << "sliderTricks_2" << 0 << "bg9"
-                                        << "#484848 at -4,4"
-                                        << "bg2"
-                                        << "#484848 at -4,4";
+    // clang-format off
+    QTest::newRow("Odd, 1, bottom right") << "shadowKeys" << "bottomRight" << "sliderTricks" << 1
+        << "bgCapsLock" << "#484848 at -4,4" << "bg1" << "#484848 at 4,4";
+    QTest::newRow("Odd, 2, top left") << "shadowKeys" << "topLeft" << "sliderTricks" << 2
+        << "bg6" << "#484848 at -4,4" << "bg4" << "#484848 at -4,-4";
+    QTest::newRow("Even, 1, top right") << "shadowKeys_2" << "topRight_2" << "sliderTricks_2" << 1
+        << "bgTab" << "#484848 at -4,-4" << "bgShiftRight" << "#484848 at 4,-4";
+    QTest::newRow("Even, 2, bottom left") << "shadowKeys_2" << "bottomLeft_2" << "sliderTricks_2"
+        << 2
+        << "bg9" << "#484848 at 4,-4" << "bg2" << "#484848 at -4,4";
+    QTest::newRow("Even, 0: all alike") << "shadowKeys_2" << "bottomLeft_2" << "sliderTricks_2" << 0
+        << "bg9" << "#484848 at -4,4" << "bg2" << "#484848 at -4,4";
+    // clang-format on
 }
 
 void tst_Shadows::tricksTurnPartOfTheFaces()
@@ -262,26 +224,16 @@ void tst_Shadows::cornerLabelsTurnTheDial_data()
     QTest::addColumn<QString>("shaded");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("English") << "topLeftLabEng"
-                             << "topLeftEng"
-                             << "textShadowEnglish"
-                             << "r6_3"
-                             << "#484848 at -4,-4";
-    QTest::newRow("Odd, no suffix") << "topRightLab"
-                                    << "topRight"
-                                    << "shadowKeys"
-                                    << "bg1"
-                                    << "#484848 at 4,-4";
-    QTest::newRow("Even") << "bottomLeftLab_2"
-                          << "bottomLeft_2"
-                          << "shadowKeys_2"
-                          << "bg2"
-                          << "#484848 at -4,4";
-    QTest::newRow("bar cells") << "topLeftLabLowAbc"
-                               << "topLeftLowAbc"
-                               << "textShadowLexoriaLowAbcBg"
-                               << "r1bg"
-                               << "#484848 at -3,-3";
+    // clang-format off
+    QTest::newRow("English") << "topLeftLabEng" << "topLeftEng" << "textShadowEnglish" << "r6_3"
+        << "#484848 at -4,-4";
+    QTest::newRow("Odd, no suffix") << "topRightLab" << "topRight" << "shadowKeys" << "bg1"
+        << "#484848 at 4,-4";
+    QTest::newRow("Even") << "bottomLeftLab_2" << "bottomLeft_2" << "shadowKeys_2" << "bg2"
+        << "#484848 at -4,4";
+    QTest::newRow("bar cells") << "topLeftLabLowAbc" << "topLeftLowAbc"
+        << "textShadowLexoriaLowAbcBg" << "r1bg" << "#484848 at -3,-3";
+    // clang-format on
 }
 
 void tst_Shadows::cornerLabelsTurnTheDial()
