@@ -107,6 +107,20 @@ protected:
         QCoreApplication::processEvents();
     }
 
+    // Strict play at a player's pace: each letter once the last entry has cleared.
+    void play(int n)
+    {
+        QTRY_COMPARE(game->field("leUser")->text(), QString());
+        game->type(n);
+    }
+    // Letters first to last, counting up or down.
+    void playAll(int first, int last)
+    {
+        const int step = first <= last ? 1 : -1;
+        for (int n = first; n != last + step; n += step)
+            play(n);
+    }
+
     static QByteArray fileBytes(const QString &path)
     {
         QFile file(path);

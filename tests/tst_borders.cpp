@@ -4,14 +4,7 @@
 
 #include "paneldriver.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QCheckBox>
-#include <QColorDialog>
-#include <QSlider>
 #include <QSpinBox>
-
-#include <memory>
 
 namespace {
 
@@ -55,12 +48,11 @@ private slots:
     void bridgesKeepTheirRowUnpainted();
 
 private:
-    // The Paint tab's layer choice, made while the tab may be hidden.
-    void choosePaintLayer(const char *layer, bool both = false);
+    // Chooses the Paint tab's layer, made while the tab may be hidden, and opens the picker.
     QColorDialog *startPainting(const char *layer, bool both = false);
 };
 
-void tst_Borders::choosePaintLayer(const char *layer, bool both)
+QColorDialog *tst_Borders::startPainting(const char *layer, bool both)
 {
     for (const char *other : paintLayers)
         find<QAbstractButton>(other)->setChecked(false);
@@ -70,11 +62,6 @@ void tst_Borders::choosePaintLayer(const char *layer, bool both)
     else
         chosen->setChecked(true);
     find<QAbstractButton>("rainbowBoth")->setChecked(both);
-}
-
-QColorDialog *tst_Borders::startPainting(const char *layer, bool both)
-{
-    choosePaintLayer(layer, both);
     if (!openPicker())
         window->enableColor(23);
     return openPicker();

@@ -43,8 +43,6 @@ private:
     bool keyBack(int k) const;
     bool shieldShown(int k) const { return !widget(QString("shield%1").arg(k))->isHidden(); }
     void choose(const QString &radioName);
-    void play(int n);
-    void playAll(int first, int last);
     QCheckBox *shadowBox() const { return window->findChild<QCheckBox *>("shadow3dOn"); }
 };
 
@@ -92,19 +90,6 @@ bool tst_Fades::keyBack(int k) const
 void tst_Fades::choose(const QString &radioName)
 {
     window->findChild<QRadioButton *>(radioName)->click();
-}
-
-void tst_Fades::play(int n)
-{
-    QTRY_COMPARE(game->field("leUser")->text(), QString());
-    game->type(n);
-}
-
-void tst_Fades::playAll(int first, int last)
-{
-    const int step = first <= last ? 1 : -1;
-    for (int n = first; n != last + step; n += step)
-        play(n);
 }
 
 void tst_Fades::fadeOutKeyStaysAway()

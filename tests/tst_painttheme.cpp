@@ -4,7 +4,6 @@
 
 #include <QBuffer>
 #include <QTemporaryDir>
-#include <QTextStream>
 
 namespace {
 

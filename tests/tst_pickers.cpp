@@ -3,10 +3,6 @@
 #define QTEST_QPA_MOUSE_HANDLING
 #include "paneldriver.h"
 
-#include <QColorDialog>
-
-#include <memory>
-
 using keycatalogue::keyOfLetter;
 
 namespace {
@@ -50,8 +46,8 @@ private:
         window->enableColor(N);
         return window->picker(N);
     }
-    // One move in the colour field; the window follows in the same event-loop turn.
-    void move(int N, const QColor &colour) { pick(window->picker(N), colour); }
+    // One move in the colour field of picker N; the window follows in the same event-loop turn.
+    void openAndMove(int N, const QColor &colour) { pick(open(N), colour); }
 };
 
 void tst_Pickers::pickersAreMadeAsListed_data()
@@ -137,8 +133,7 @@ void tst_Pickers::liveColourReachesTheBoard()
     QFETCH(QString, widget);
     QFETCH(QString, style);
 
-    open(picker);
-    move(picker, colour);
+    openAndMove(picker, colour);
     QCOMPARE(game->style(widget), style);
 }
 
@@ -152,8 +147,7 @@ void tst_Pickers::stateColoursShowWhenTheStateComes()
     QCOMPARE(game->style(englishLabelOf(1)), "color: rgba(0, 0, 255, 200 );;font-family: Calibri;");
     QTest::keyRelease(window.get(), Qt::Key_F);
 
-    open(7);
-    move(7, QColor(10, 20, 30));
+    openAndMove(7, QColor(10, 20, 30));
     const QString shield = QString("shield%1").arg(keyOfLetter(1));
     enter(shield);
     QCOMPARE(
@@ -171,8 +165,7 @@ void tst_Pickers::stateColoursShowWhenTheStateComes()
 void tst_Pickers::secondColourRule()
 {
     const GradientSide &keys = window->targets.keys.bg;
-    open(3);
-    move(3, QColor(255, 0, 0));
+    openAndMove(3, QColor(255, 0, 0));
     QCOMPARE(keys.color, QString("rgba(255, 0, 0, 255 ) "));
     QCOMPARE(keys.gradColor, QString("rgba(255, 0, 0, 255 ) "));
     // The shape is not radial, so the radial pair keeps its colours.
@@ -189,13 +182,12 @@ void tst_Pickers::secondColourRule()
 
     open(14);
     QVERIFY(window->pickerState.keysGradOpened);
-    move(14, QColor(0, 0, 255, 100));
+    pick(window->picker(14), QColor(0, 0, 255, 100));
     QCOMPARE(keys.gradColor, QString("rgba(0, 0, 255, 100 ) "));
     QCOMPARE(keys.radialGradColor, QString("#0000ff"));
     window->picker(14)->accept();
 
-    open(3);
-    move(3, QColor(0, 255, 0));
+    openAndMove(3, QColor(0, 255, 0));
     QCOMPARE(keys.color, QString("rgba(0, 255, 0, 255 ) "));
     QCOMPARE(keys.gradColor, QString("rgba(0, 0, 255, 100 ) "));
     // Cancel gives the keys back the red of the first OK, by the picker's own signal.
@@ -209,11 +201,9 @@ void tst_Pickers::secondColourRule()
 void tst_Pickers::topPickerCancelledBeforeOkTurnsTheGradientSolid()
 {
     const GradientSide &keys = window->targets.keys.bg;
-    open(3);
-    move(3, QColor(10, 10, 10));
+    openAndMove(3, QColor(10, 10, 10));
     window->picker(3)->accept();
-    open(14);
-    move(14, QColor(200, 0, 0));
+    openAndMove(14, QColor(200, 0, 0));
     window->picker(14)->reject();
     QCOMPARE(keys.gradColor, keys.color);
     QCOMPARE(game->style("r1bg"),
@@ -227,8 +217,7 @@ void tst_Pickers::baseRulesOfTheOtherTargets()
 {
     // The mouse-over's base picker lets only the plain top colour follow.
     const GradientSide &mouseover = window->targets.mouseover.bg;
-    open(9);
-    move(9, QColor(1, 2, 3));
+    openAndMove(9, QColor(1, 2, 3));
     QCOMPARE(mouseover.color, QString("rgba(1, 2, 3, 255 ) "));
     QCOMPARE(mouseover.gradColor, QString("rgba(1, 2, 3, 255 ) "));
     QCOMPARE(mouseover.radialColor, QString("#010203"));
@@ -236,14 +225,12 @@ void tst_Pickers::baseRulesOfTheOtherTargets()
 
     // The keypress base picker writes all four while its top picker was never opened.
     const GradientSide &keypress = window->targets.keypress.bg;
-    open(6);
-    move(6, QColor(4, 5, 6));
+    openAndMove(6, QColor(4, 5, 6));
     QCOMPARE(keypress.gradColor, QString("rgba(4, 5, 6, 255 ) "));
     QCOMPARE(keypress.radialGradColor, QString("#040506"));
 
     // Both line directions are chosen at start: the lines' colours are the vertical set.
-    open(12);
-    move(12, QColor(7, 8, 9, 10));
+    openAndMove(12, QColor(7, 8, 9, 10));
     QCOMPARE(window->pieces.lineVerticalColor, QString("rgba(7, 8, 9, 255 ) "));
     QCOMPARE(window->pieces.lineHorizontalColor, QString("blue"));
     window->picker(12)->accept();
@@ -254,8 +241,7 @@ void tst_Pickers::baseRulesOfTheOtherTargets()
 
 void tst_Pickers::okHandsTheKeysColoursToThePaint()
 {
-    open(3);
-    move(3, QColor(0, 128, 0));
+    openAndMove(3, QColor(0, 128, 0));
     window->picker(3)->accept();
     QCOMPARE(window->targets.rainbow.bg.color, QString("rgba(0, 128, 0, 255 ) "));
     QCOMPARE(window->targets.rainbow.bg.gradColor, QString("rgba(0, 128, 0, 255 ) "));
@@ -266,14 +252,12 @@ void tst_Pickers::okHandsTheKeysColoursToThePaint()
 void tst_Pickers::chosenColoursOfTheHighlightAndTheGamePlay()
 {
     // OK writes the highlight's Russian colour in a form of its own.
-    open(15);
-    move(15, QColor(1, 1, 1));
+    openAndMove(15, QColor(1, 1, 1));
     QCOMPARE(window->pieces.highlightRussianColorStyle, QString("color: rgba(1, 1, 1, 255 ) ;"));
     window->picker(15)->accept();
     QCOMPARE(window->pieces.highlightRussianColorStyle, QString(" color: rgba(1, 1, 1, 255 ) ; "));
 
-    open(29);
-    move(29, QColor(2, 2, 2));
+    openAndMove(29, QColor(2, 2, 2));
     QCOMPARE(window->pieces.matchTextColorStyle, QString("color: rgba(2, 2, 2, 255 ) ;"));
     window->picker(29)->accept();
     QCOMPARE(window->pieces.userTextColorStyle, QString(" color: rgba(2, 2, 2, 255 ) ;"));

@@ -4,12 +4,7 @@
 
 #include "paneldriver.h"
 
-#include <QCheckBox>
 #include <QGraphicsDropShadowEffect>
-#include <QRadioButton>
-#include <QSlider>
-
-#include <memory>
 
 class tst_Shadows : public QObject, public PanelDriver
 {

@@ -4,9 +4,7 @@
 #include "stats/queries.h"
 #include "stats/recorder.h"
 
-#include <QFile>
 #include <QMessageBox>
-#include <QRadioButton>
 #include <QSignalSpy>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -14,8 +12,6 @@
 #include <QTemporaryDir>
 #include <QtCharts/QChartView>
 #include <QtCharts/QLineSeries>
-
-#include <memory>
 
 using namespace stats;
 
@@ -35,14 +31,7 @@ int letterOf(const QString &text)
 
 Entry entry(qint64 game, qint64 at, int asked, int typed, int findMs)
 {
-    Entry made;
-    made.game = game;
-    made.playedAt = at;
-    made.asked = asked;
-    made.typed = typed;
-    made.right = asked == typed;
-    made.findMs = findMs;
-    return made;
+    return {game, at, asked, typed, asked == typed, findMs};
 }
 
 // What the file holds, read through a connection of its own.
@@ -347,10 +336,7 @@ void tst_Stats::brokenHistoryLeavesTheGamePlayable()
 
     game->click("strict");
     game->startGame("pbForwardNumberLine");
-    for (int n = 67; n <= 94; ++n) {
-        QTRY_COMPARE(game->field("leUser")->text(), QString());
-        game->type(n);
-    }
+    playAll(67, 94);
     QCOMPARE(game->text("labelCorrect"), QString("28"));
     QTRY_COMPARE_WITH_TIMEOUT(
         game->text("display2"), QString("Would you like\nto play again?"), 2500);
