@@ -290,9 +290,6 @@ void tst_Sound::panelOpensAndParks()
         menu->click();
         QCOMPARE(panel->geometry(), open ? QRect(0, 0, 426, 262) : QRect(1500, 405, 426, 262));
         QCOMPARE(add->pos(), open ? QPoint(334, 122) : QPoint(1500, 300));
-        QCOMPARE(menu->text(), open ? QString("Close") : QString("Open"));
-        QCOMPARE(panel->isVisible(), open);
-        QCOMPARE(find<QLabel>("markerAudio")->isVisible(), open);
         // The button lies on top of the panel, beside the folder icon.
         if (open)
             QCOMPARE(window->childAt(add->geometry().center()), add);
