@@ -113,12 +113,16 @@ protected:
         QTRY_COMPARE(game->field("leUser")->text(), QString());
         game->type(n);
     }
-    // Letters first to last, counting up or down.
-    void playAll(int first, int last)
+    // Letters first to last, counting up or down; gives the keys they were found on.
+    QList<int> playAll(int first, int last)
     {
+        QList<int> keys;
         const int step = first <= last ? 1 : -1;
-        for (int n = first; n != last + step; n += step)
+        for (int n = first; n != last + step; n += step) {
             play(n);
+            keys << keycatalogue::keyOfLetter(n);
+        }
+        return keys;
     }
 
     static QByteArray fileBytes(const QString &path)

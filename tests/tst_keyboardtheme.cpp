@@ -44,7 +44,6 @@ private slots:
         dir.reset();
     }
 
-    void savedDefaultTheme_data();
     void savedDefaultTheme();
     void openingAppliesEveryLineAndSavesItBack();
     void changedGradientComesBack();
@@ -91,36 +90,18 @@ private:
     QStringList asked;
 };
 
-void tst_KeyboardTheme::savedDefaultTheme_data()
-{
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("kind marker") << 1 << "0";
-    QTest::newRow("language marker") << 2 << "1";
-    QTest::newRow("keys' colour") << 4 << "black";
-    QTest::newRow("wallpaper border's radial colour") << 102 << "rgb(115, 115, 115)";
-    QTest::newRow("keys' stop") << 33 << ".5";
-    QTest::newRow("keys' background") << 42 << defaultKeysBg;
-    QTest::newRow("English colour") << 51 << "color: white;";
-    QTest::newRow("keypress border")
-        << 62 << "border-style:none; border-width:0px;  border-color: transparent;";
-    QTest::newRow("keys' border shape") << 67 << "1";
-    QTest::newRow("highlight's background stop position") << 78 << "5";
-    QTest::newRow("spare colour") << 110 << "white";
-    QTest::newRow("text colour of the entry") << 126 << "color: black;";
-}
-
 void tst_KeyboardTheme::savedDefaultTheme()
 {
-    QFETCH(int, line);
-    QFETCH(QString, text);
     const QList<QByteArray> lines = linesOf(fileBytes(save(QStringLiteral("saved.txt"))));
     QCOMPARE(asked, QStringList({"Save Keyboard", "./Keyboard Theme.txt", "Text Files (*.txt)"}));
     QCOMPARE(lines.size(), 126);
-    QCOMPARE(QString::fromUtf8(lines[line - 1]), text);
-    const auto *english = window->findChild<QFontComboBox *>("fontComboBoxEnglish");
-    QCOMPARE(QString::fromUtf8(lines[123]), english->currentText());
+    const std::pair<int, QString> pinned[] = {{4, "black"}, {102, "rgb(115, 115, 115)"}, {33, ".5"},
+        {42, defaultKeysBg}, {51, "color: white;"},
+        {62, "border-style:none; border-width:0px;  border-color: transparent;"}, {67, "1"},
+        {78, "5"}, {110, "white"}, {126, "color: black;"},
+        {124, window->findChild<QFontComboBox *>("fontComboBoxEnglish")->currentText()}};
+    for (const auto &[line, text] : pinned)
+        QCOMPARE(QString::fromUtf8(lines[line - 1]), text);
 }
 
 void tst_KeyboardTheme::openingAppliesEveryLineAndSavesItBack()

@@ -159,7 +159,6 @@ void tst_Mouse::letterNumberFollowsTheMouse_data()
     QTest::newRow("bar digit") << "r67" << 0;
     QTest::newRow("key ё in the number row") << "shield27" << 7;
     QTest::newRow("digit key") << "shield28" << 0;
-    QTest::newRow("key 42") << "shield42" << 0;
 }
 
 void tst_Mouse::letterNumberFollowsTheMouse()

@@ -29,6 +29,20 @@ const QString tabRedHover
 const QString tabBlueHover
     = "border: 3px solid purple; background-color: blue;  font: 10pt 'MS Shell Dlg 2';";
 
+// Where each part of the menu comes to rest when it is open and when it is closed.
+const struct
+{
+    const char *name;
+    QRect open, closed;
+} menuParts[] = {{"tableOfContents", {1070, 0, 142, 695}, {1215, 0, 142, 695}},
+    {"closeX", {890, 629, 90, 66}, {1364, 629, 90, 99}},
+    {"optionsShield", {-4, -75, 1211, 337}, {-4, -266, 1211, 258}},
+    {"optionsArrow1", {890, 4, 70, 56}, {890, -72, 70, 56}},
+    {"optionsArrow2", {890, 74, 70, 56}, {890, -72, 70, 56}},
+    {"optionsArrow3", {890, 144, 70, 56}, {890, -72, 70, 56}},
+    {"optionsText1", {890, 204, 180, 23}, {1215, 214, 180, 23}},
+    {"optionsText2", {890, 228, 180, 23}, {1215, 238, 104, 36}}};
+
 } // namespace
 
 class tst_Options : public QObject, public PanelDriver
@@ -59,16 +73,9 @@ void tst_Options::menuSlidesInAndOut()
     game->click("options");
     QCOMPARE(
         game->style("letterOfAlphabet2"), QString("color: white;   font: 10pt 'MS Shell Dlg 2';"));
-
     // The second text is the last to arrive, 1000 + 200 + 500 ms after the click.
-    QTRY_COMPARE_WITH_TIMEOUT(rect("optionsText2"), QRect(890, 228, 180, 23), 10000);
-    QCOMPARE(rect("tableOfContents"), QRect(1070, 0, 142, 695));
-    QCOMPARE(rect("closeX"), QRect(890, 629, 90, 66));
-    QCOMPARE(rect("optionsShield"), QRect(-4, -75, 1211, 337));
-    QTRY_COMPARE(rect("optionsArrow3"), QRect(890, 144, 70, 56));
-    QCOMPARE(rect("optionsArrow1"), QRect(890, 4, 70, 56));
-    QCOMPARE(rect("optionsArrow2"), QRect(890, 74, 70, 56));
-    QCOMPARE(rect("optionsText1"), QRect(890, 204, 180, 23));
+    for (const auto &part : menuParts)
+        QTRY_COMPARE_WITH_TIMEOUT(rect(part.name), part.open, 10000);
     QVERIFY(visible("optionsShield"));
 
     // A click on the open menu changes nothing.
@@ -78,14 +85,8 @@ void tst_Options::menuSlidesInAndOut()
     game->click("closeX");
     QCOMPARE(game->style("letterOfAlphabet2"),
         QString("color: #6e6e6e;   font: 10pt 'MS Shell Dlg 2';"));
-    QTRY_COMPARE_WITH_TIMEOUT(rect("optionsShield"), QRect(-4, -266, 1211, 258), 10000);
-    QTRY_COMPARE(rect("tableOfContents"), QRect(1215, 0, 142, 695));
-    QTRY_COMPARE(rect("closeX"), QRect(1364, 629, 90, 99));
-    QTRY_COMPARE(rect("optionsArrow1"), QRect(890, -72, 70, 56));
-    QCOMPARE(rect("optionsArrow2"), QRect(890, -72, 70, 56));
-    QCOMPARE(rect("optionsArrow3"), QRect(890, -72, 70, 56));
-    QCOMPARE(rect("optionsText1"), QRect(1215, 214, 180, 23));
-    QCOMPARE(rect("optionsText2"), QRect(1215, 238, 104, 36));
+    for (const auto &part : menuParts)
+        QTRY_COMPARE_WITH_TIMEOUT(rect(part.name), part.closed, 10000);
 }
 
 void tst_Options::reopeningWaitsForTheMenuToClose()
@@ -104,9 +105,8 @@ void tst_Options::reopeningWaitsForTheMenuToClose()
     // may the arrows of the first opening arrive late.
     QTRY_COMPARE_WITH_TIMEOUT(rect("optionsText2"), QRect(890, 228, 180, 23), 10000);
     QTest::qWait(1200);
-    QCOMPARE(rect("tableOfContents"), QRect(1070, 0, 142, 695));
-    QCOMPARE(rect("optionsShield"), QRect(-4, -75, 1211, 337));
-    QCOMPARE(rect("optionsArrow1"), QRect(890, 4, 70, 56));
+    for (const auto &part : menuParts)
+        QCOMPARE(rect(part.name), part.open);
 }
 
 void tst_Options::oneEntryOpensItsPanelAndClosesTheOthers_data()
@@ -115,20 +115,12 @@ void tst_Options::oneEntryOpensItsPanelAndClosesTheOthers_data()
     QTest::addColumn<QString>("frame");
     QTest::addColumn<QString>("marker");
 
-    QTest::newRow("Color Madness") << 0 << "tabWidget"
-                                   << "markerCm";
-    QTest::newRow("Key located effects") << 1 << "frameVorticKeyboard"
-                                         << "markerEk";
-    QTest::newRow("Fonts") << 2 << "frameFonts"
-                           << "markerFonts";
-    QTest::newRow("Add images") << 3 << "framePhotos"
-                                << "markerPictures";
-    QTest::newRow("Shadows") << 4 << "frameShadows"
-                             << "markerShadows";
-    QTest::newRow("Keypress sounds") << 5 << "frameAudio"
-                                     << "markerAudio";
-    QTest::newRow("Game Play box") << 6 << "frameGamePlayS"
-                                   << "markerExtra";
+    const char *const panels[][2] = {{"tabWidget", "markerCm"}, {"frameVorticKeyboard", "markerEk"},
+        {"frameFonts", "markerFonts"}, {"framePhotos", "markerPictures"},
+        {"frameShadows", "markerShadows"}, {"frameAudio", "markerAudio"},
+        {"frameGamePlayS", "markerExtra"}};
+    for (int entry = 0; entry < 7; ++entry)
+        QTest::newRow(menuButtons[entry]) << entry << panels[entry][0] << panels[entry][1];
 }
 
 void tst_Options::oneEntryOpensItsPanelAndClosesTheOthers()

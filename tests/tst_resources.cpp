@@ -210,57 +210,28 @@ void tst_Resources::pictureLoads()
 void tst_Resources::gifPlays_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("frames");
     // A gif laid over a key must let the key show through around its figure.
     QTest::addColumn<bool>("overKey");
 
-    const QSize any;
-    QTest::newRow("angryEmotion2") << "angryEmotion2.gif" << QSize(96, 60) << 24 << true;
-    QTest::newRow("birdsdance2") << "birdsdance2.gif" << QSize(96, 60) << 11 << true;
-    QTest::newRow("butterfly1") << "butterfly1.gif" << QSize(96, 76) << 23 << true;
-    QTest::newRow("explodeAll2") << "explodeAll2.gif" << QSize(96, 96) << 30 << true;
-    QTest::newRow("swirl1") << "swirl1.gif" << QSize(100, 100) << 10 << true;
-    QTest::newRow("kittyWalk") << "kittyWalk.gif" << QSize(100, 46) << 12 << true;
-    QTest::newRow("pulsingLightSmall") << "pulsingLightSmall.gif" << QSize(54, 54) << 3 << true;
-    QTest::newRow("snowSmall") << "snowSmall.gif" << QSize(84, 54) << 20 << true;
-    QTest::newRow("rain") << "rain.gif" << QSize(80, 60) << 60 << true;
-    QTest::newRow("bouncingSheepSmall") << "bouncingSheepSmall.gif" << QSize(34, 54) << 8 << true;
-    QTest::newRow("marbleTransparentSmall")
-        << "marbleTransparentSmall.gif" << QSize(54, 54) << 1 << true;
-    QTest::newRow("snowfall") << "snowfall.gif" << QSize(100, 120) << 19 << true;
-    QTest::newRow("blank") << "blank.gif" << QSize(1, 1) << 1 << true;
-    QTest::newRow("russianFlag") << "russianFlag.gif" << any << 0 << false;
-    QTest::newRow("english") << "english.gif" << any << 0 << false;
-    QTest::newRow("arrow") << "arrow.gif" << any << 0 << false;
-    QTest::newRow("arrowSide") << "arrowSide.gif" << any << 0 << false;
-    QTest::newRow("bomb2") << "bomb2.gif" << any << 0 << false;
-    QTest::newRow("explodeAll") << "explodeAll.gif" << any << 0 << false;
-    QTest::newRow("iconOpen") << "iconOpen.gif" << any << 0 << false;
-    QTest::newRow("pulsingLight") << "pulsingLight.gif" << any << 0 << false;
-    QTest::newRow("snow") << "snow.gif" << any << 0 << false;
-    QTest::newRow("swirl") << "swirl.gif" << any << 0 << false;
-    QTest::newRow("swirl1Small") << "swirl1Small.gif" << any << 0 << false;
+    const QStringList overKeys
+        = {"angryEmotion2.gif", "birdsdance2.gif", "butterfly1.gif", "explodeAll2.gif",
+            "swirl1.gif", "kittyWalk.gif", "pulsingLightSmall.gif", "snowSmall.gif", "rain.gif",
+            "bouncingSheepSmall.gif", "marbleTransparentSmall.gif", "snowfall.gif", "blank.gif"};
+    for (const QString &name : namesEndingWith(QStringLiteral(".gif")))
+        QTest::newRow(qPrintable(name)) << name << overKeys.contains(name);
 }
 
 void tst_Resources::gifPlays()
 {
     QFETCH(QString, name);
-    QFETCH(QSize, size);
-    QFETCH(int, frames);
     QFETCH(bool, overKey);
 
     QMovie movie(resourceDir + name);
     QVERIFY(movie.isValid());
     QCOMPARE(movie.format(), QByteArray("gif"));
-    if (frames > 0)
-        QCOMPARE(movie.frameCount(), frames);
-    else
-        QVERIFY(movie.frameCount() >= 1);
+    QVERIFY(movie.frameCount() >= 1);
 
     QImageReader reader(resourceDir + name);
-    if (size.isValid())
-        QCOMPARE(reader.size(), size);
     // The thumbnails and keys run their movies for ever.
     if (movie.frameCount() > 1)
         QCOMPARE(reader.loopCount(), -1);
@@ -284,31 +255,13 @@ void tst_Resources::gifPlays()
 void tst_Resources::waveIsPlayable_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<double>("seconds");
-    QTest::addColumn<bool>("silent");
-
-    QTest::newRow("bark") << "bark.wav" << 0.209 << false;
-    QTest::newRow("meow") << "meow.wav" << 0.888 << false;
-    QTest::newRow("quack1") << "quack1.wav" << 0.313 << false;
-    QTest::newRow("quack") << "quack.wav" << -1.0 << false;
-    QTest::newRow("photon") << "photon.wav" << 1.306 << false;
-    QTest::newRow("photon2") << "photon2.wav" << 1.228 << false;
-    QTest::newRow("whistle") << "whistle.wav" << 0.340 << false;
-    QTest::newRow("bubble2") << "bubble2.wav" << 0.366 << false;
-    QTest::newRow("chime1") << "chime1.wav" << 3.892 << false;
-    QTest::newRow("explosion1") << "explosion1.wav" << 3.527 << false;
-    QTest::newRow("machineGun2") << "machineGun2.wav" << 0.836 << false;
-    QTest::newRow("typewriter") << "typewriter.wav" << 0.392 << false;
-    // A silent key still plays a file, as long as the minigun burst.
-    QTest::newRow("silence") << "silence.wav" << 0.836 << true;
+    for (const QString &name : namesEndingWith(QStringLiteral(".wav")))
+        QTest::newRow(qPrintable(name)) << name;
 }
 
 void tst_Resources::waveIsPlayable()
 {
     QFETCH(QString, name);
-    QFETCH(double, seconds);
-    QFETCH(bool, silent);
-
     QFile file(resourceDir + name);
     QVERIFY(file.open(QIODevice::ReadOnly));
     Wave wave;
@@ -324,10 +277,14 @@ void tst_Resources::waveIsPlayable()
     QCOMPARE(wave.samples.size() % 4, 0);
     QVERIFY(!wave.samples.isEmpty());
 
-    if (seconds >= 0) {
-        const double length = wave.samples.size() / 4 / 44100.0;
-        QVERIFY2(qAbs(length - seconds) <= 0.005,
-            qPrintable(QStringLiteral("%1 s, wanted %2 s").arg(length).arg(seconds)));
+    // A silent key still plays a file, as long as the minigun burst.
+    const bool silent = name == QLatin1String("silence.wav");
+    if (silent) {
+        QFile burstFile(resourceDir + "machineGun2.wav");
+        QVERIFY(burstFile.open(QIODevice::ReadOnly));
+        Wave burst;
+        QVERIFY(parseWave(burstFile.readAll(), &burst).isEmpty());
+        QCOMPARE(wave.samples.size(), burst.samples.size());
     }
 
     int peak = 0;

@@ -64,7 +64,6 @@ private slots:
     void silentKeyPressRule_data();
     void silentKeyPressRule();
     void finishedLetterWithoutEffectKeepsItsSound();
-    void previewsPlayOnEnterOnly_data();
     void previewsPlayOnEnterOnly();
     void uploadDialogs_data();
     void uploadDialogs();
@@ -95,14 +94,8 @@ void tst_Sound::keyPressPlaysChosenSound_data()
     QTest::addColumn<QString>("file");
     QTest::newRow("at start") << QString() << silence;
     QTest::newRow("Dog Bark") << "audioBark" << resource("bark.wav");
-    QTest::newRow("Happy Cat") << "audioMeow" << resource("meow.wav");
+    // The two whose files are not named after them.
     QTest::newRow("Quack") << "audioQuack" << resource("quack1.wav");
-    QTest::newRow("Photon") << "audioPhoton" << resource("photon.wav");
-    QTest::newRow("Photon II") << "audioPhoton2" << resource("photon2.wav");
-    QTest::newRow("Whistle") << "audioWhistle" << resource("whistle.wav");
-    QTest::newRow("Bubble") << "audioBubble" << resource("bubble2.wav");
-    QTest::newRow("Chime") << "audioChime1" << resource("chime1.wav");
-    QTest::newRow("Explosion") << "audioExplosion" << resource("explosion1.wav");
     QTest::newRow("Minigun") << "audioMinigun" << resource("machineGun2.wav");
     QTest::newRow("Typewriter") << "audioTypewriter" << resource("typewriter.wav");
     QTest::newRow("None") << "audioNone" << QString("");
@@ -165,22 +158,11 @@ void tst_Sound::finishedLetterWithoutEffectKeepsItsSound()
     QCOMPARE(lastSound(), resource("whistle.wav"));
 }
 
-void tst_Sound::previewsPlayOnEnterOnly_data()
-{
-    QTest::addColumn<QString>("hoverLabel");
-    QTest::addColumn<QString>("file");
-    QTest::newRow("quack") << "playQuack" << resource("quack1.wav");
-    QTest::newRow("uploaded, none yet") << "playUploadedAudio" << silence;
-    QTest::newRow("uploaded pulse, none yet") << "playUploadedAudioPulse" << silence;
-}
-
 void tst_Sound::previewsPlayOnEnterOnly()
 {
-    QFETCH(QString, hoverLabel);
-    QFETCH(QString, file);
-    hover(find<QLabel>(hoverLabel), QEvent::Enter);
-    QCOMPARE(lastSound(), file);
-    hover(find<QLabel>(hoverLabel), QEvent::Leave);
+    hover(find<QLabel>("playQuack"), QEvent::Enter);
+    QCOMPARE(lastSound(), resource("quack1.wav"));
+    hover(find<QLabel>("playQuack"), QEvent::Leave);
     QCOMPARE(spy->count(), 1);
     // Listening is not choosing.
     game->type(1);
@@ -293,9 +275,6 @@ void tst_Sound::panelOpensAndParks()
         menu->click();
         QCOMPARE(panel->geometry(), open ? QRect(0, 0, 426, 262) : QRect(1500, 405, 426, 262));
         QCOMPARE(add->pos(), open ? QPoint(334, 122) : QPoint(1500, 300));
-        QCOMPARE(menu->text(), open ? QString("Close") : QString("Open"));
-        QCOMPARE(panel->isVisible(), open);
-        QCOMPARE(find<QLabel>("markerAudio")->isVisible(), open);
         // The button lies on top of the panel, beside the folder icon.
         if (open)
             QCOMPARE(window->childAt(add->geometry().center()), add);
