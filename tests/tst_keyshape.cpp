@@ -110,17 +110,12 @@ void tst_KeyShape::familiesQtWouldSplitAreQuoted_data()
     QTest::addColumn<QString>("family");
     QTest::addColumn<QString>("piece");
 
-    QTest::newRow("plain words") << "Liberation Sans"
-                                 << "font-family: Liberation Sans;";
-    QTest::newRow("kept quoted") << "Old English Text MT"
-                                 << "font-family: 'Old English Text MT';";
-    QTest::newRow("digits and a dot") << "Modern No. 20"
-                                      << "font-family: 'Modern No. 20';";
+    QTest::newRow("plain words") << "Liberation Sans" << "font-family: Liberation Sans;";
+    QTest::newRow("kept quoted") << "Old English Text MT" << "font-family: 'Old English Text MT';";
+    QTest::newRow("digits and a dot") << "Modern No. 20" << "font-family: 'Modern No. 20';";
     // How the Linux font list names a family that two foundries make.
-    QTest::newRow("foundry") << "C059 [UKWN]"
-                             << "font-family: 'C059 [UKWN]';";
-    QTest::newRow("apostrophe") << "Pete's Hand"
-                                << "font-family: 'Pete\\'s Hand';";
+    QTest::newRow("foundry") << "C059 [UKWN]" << "font-family: 'C059 [UKWN]';";
+    QTest::newRow("apostrophe") << "Pete's Hand" << "font-family: 'Pete\\'s Hand';";
 }
 
 void tst_KeyShape::familiesQtWouldSplitAreQuoted()
