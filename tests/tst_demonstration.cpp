@@ -74,8 +74,6 @@ void tst_Demonstration::tourLightsEachStepAndHideEndsIt()
     QTRY_VERIFY_WITH_TIMEOUT(lit("demo1"), stepTimeout);
     QCOMPARE(showing(), QStringList({"demo1", "arrow1", "arrow2", "arrow3"}));
     QCOMPARE(widget("arrow1")->pos(), QPoint(8, 178));
-    QCOMPARE(widget("arrow2")->pos(), QPoint(52, 178));
-    QCOMPARE(widget("arrow3")->pos(), QPoint(96, 178));
     // Clicks on the game buttons go through the arrows that point at them.
     QVERIFY(widget("arrow1")->testAttribute(Qt::WA_TransparentForMouseEvents));
 

@@ -35,14 +35,12 @@ private:
     QByteArray pattern;
 };
 
+// Lines 1 and 2 hold what a theme starts with; the others name their own number.
 QByteArray numberedLines(int count, const char *end = "\n")
 {
-    QByteArray bytes = "0";
-    bytes += end;
-    bytes += "1";
-    bytes += end;
-    for (int number = 3; number <= count; ++number)
-        bytes += "line " + QByteArray::number(number) + end;
+    QByteArray bytes;
+    for (int n = 1; n <= count; ++n)
+        bytes += (n <= 2 ? QByteArray::number(n - 1) : "line " + QByteArray::number(n)) + end;
     return bytes;
 }
 
