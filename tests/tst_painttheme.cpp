@@ -116,7 +116,7 @@ void tst_PaintTheme::init()
     window = std::make_unique<lexoria>();
     window->setFileAsker([this](const lexoria::FileQuestion &question) {
         questions.append(question);
-        return answer;
+        return QStringList {answer};
     });
     game = std::make_unique<GameDriver>(window.get());
     dir = std::make_unique<QTemporaryDir>();

@@ -54,7 +54,8 @@ void tst_Rainbow::init()
     window = std::make_unique<lexoria>();
     window->openLexoria();
     QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    window->setFileAsker([this](const lexoria::FileQuestion &) { return dir.filePath("t.txt"); });
+    window->setFileAsker(
+        [this](const lexoria::FileQuestion &) { return QStringList {dir.filePath("t.txt")}; });
     game = std::make_unique<GameDriver>(window.get());
 }
 
