@@ -303,9 +303,7 @@ void lexoria::restyleKeyboardSamples()
     const StylePieces &p = pieces;
     for (int sample : {gradientcatalogue::KeysSample, gradientcatalogue::KeypressSample,
              gradientcatalogue::MouseoverSample, gradientcatalogue::HighlightSample}) {
-        restyleSampleFace(sample);
-        restyleSampleEnglish(sample);
-        restyleSampleRussian(sample);
+        restyleSample(sample, gradientcatalogue::AllParts);
     }
     restyleNamed("aKeysMap5", p.keyRadiusStyle + p.keysBgStyle + p.keysBorderStyle);
     // The map's letters keep the sizes they were drawn for; only colour and family follow.

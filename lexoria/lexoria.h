@@ -335,13 +335,14 @@ private:
     void openPickerUnderMouse();
     void setUpPickerSwatches();
     void turnPaintOn(bool withBorder);
-    bool radioChecked(const char *name, bool whenMissing) const;
+    // A button missing from this build counts as whenMissing, as does a row without one.
+    bool radioChecked(const char *name, bool whenMissing = false) const;
     QList<ColourSet> selectedSides(int target);
     bool &gradOpened(int target);
     void baseColour(int target, const QColor &color, BaseRule rule);
     void topColour(int target, const QColor &color);
     void topFromBase(int target, bool radialToo);
-    void restyleKeysAtRest();
+    void restyleKeysAtRest(bool finishedToo = false);
     void restyleSample(int sample, int parts);
     void stepListA();
     void stepListB();
@@ -365,12 +366,8 @@ private:
     void applyLineHighlight();
     void gamePlayFields();
     void restyleRestingBoard();
-    void restyleSampleFace(int sample);
-    void restyleSampleEnglish(int sample);
-    void restyleSampleRussian(int sample);
     void sampleByPaintFlags();
     void pulsateTick();
-    bool radioChecked(const char *name) const;
 
     // Animate Gradient swings the game play stop to and fro by the float steps it always took.
     struct Pulsate
