@@ -79,22 +79,7 @@ void bench_Fades::keyPressAfterFades()
         window->fadeAll();
         QTest::qWait(shortRun() ? 500 : 6600);
     }
-    const int rounds = shortRun() ? 3 : 400;
-    std::vector<qint64> times;
-    bool painted = true;
-    for (int i = 0; i < rounds; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        QTest::keyPress(window.get(), Qt::Key_F);
-        painted = waitForFrame() && painted;
-        times.push_back(timer.nsecsElapsed());
-        QTest::keyRelease(window.get(), Qt::Key_F);
-        painted = waitForFrame() && painted;
-    }
-    QVERIFY(painted);
-    qInfo("key press until painted: median %.3f ms, range %.3f .. %.3f ms, %d rounds",
-        percentile(times, 0.5), percentile(times, 0.0), percentile(times, 1.0), rounds);
-    QTest::setBenchmarkResult(percentile(times, 0.5) * 1e6, QTest::WalltimeNanoseconds);
+    timeKeyPresses(window.get(), shortRun() ? 3 : 400);
 }
 
 int main(int argc, char **argv)

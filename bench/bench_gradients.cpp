@@ -17,12 +17,9 @@
 #include <memory>
 #include <vector>
 
-namespace {
+using namespace paintwatch;
 
-bool shortRun()
-{
-    return qEnvironmentVariableIntValue("VORTIC_BENCH_SHORT") == 1;
-}
+namespace {
 
 // Every step is timed on its own, from the user's action until the window has painted it; the
 // median and the worst step are what a player feels while dragging.

@@ -18,14 +18,9 @@
 #include <memory>
 #include <vector>
 
-namespace {
+using namespace paintwatch;
 
-// VORTIC_BENCH_SHORT=1 runs every benchmark once, so that CI proves they still work without
-// spending minutes on figures nobody reads there.
-bool shortRun()
-{
-    return qEnvironmentVariableIntValue("VORTIC_BENCH_SHORT") == 1;
-}
+namespace {
 
 // The keys of the Lowercase alphabet а, б, в … я, in alphabet order, on a Latin keyboard.
 const Qt::Key lowercaseAlphabetKeys[] = {
@@ -101,35 +96,6 @@ template <class Body> void measure(Body body)
             body();
         }
     }
-}
-
-// Where every round needs an untimed setup (a fresh window, keys to restore), QBENCHMARK
-// cannot keep that setup out of its loop. These rounds are timed one by one and QtTest gets
-// their median in nanoseconds, since its own walltime counts whole milliseconds; with
-// -median N it reports the median of N such medians.
-template <class Setup, class Body, class Teardown>
-void measureRounds(int rounds, Setup setup, Body body, Teardown teardown)
-{
-    if (shortRun())
-        rounds = 1;
-    std::vector<qint64> nanoseconds;
-    for (int round = 0; round < rounds; ++round) {
-        setup();
-        QElapsedTimer timer;
-        timer.start();
-        body();
-        nanoseconds.push_back(timer.nsecsElapsed());
-        teardown();
-        if (QTest::currentTestFailed())
-            return;
-    }
-    std::sort(nanoseconds.begin(), nanoseconds.end());
-    // The tenth percentile shows a difference of a fraction of a millisecond that a loaded
-    // machine hides in the median.
-    qInfo("%d rounds: median %.3f ms, 10th percentile %.3f ms, range %.3f .. %.3f ms", rounds,
-        nanoseconds[rounds / 2] / 1e6, nanoseconds[rounds / 10] / 1e6, nanoseconds.front() / 1e6,
-        nanoseconds.back() / 1e6);
-    QTest::setBenchmarkResult(nanoseconds[rounds / 2], QTest::WalltimeNanoseconds);
 }
 
 } // namespace

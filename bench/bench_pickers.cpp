@@ -1,9 +1,9 @@
+#include "bench/paintwatch.h"
 #include "lexoria/lexoria.h"
 
 #include <QColorDialog>
 #include <QElapsedTimer>
 #include <QPushButton>
-#include <QTimer>
 #include <QtTest>
 
 #include <algorithm>
@@ -18,55 +18,6 @@ int colourCount()
 {
     return qEnvironmentVariableIntValue("VORTIC_BENCH_SHORT") == 1 ? 3 : 100;
 }
-
-// Counts the paint events of one top-level window and everything in it; a frame is done when
-// the first of them has been handled, since Qt paints the whole dirty region in one pass.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget *window)
-        : window(window)
-    {
-        qApp->installEventFilter(this);
-    }
-    ~PaintWatch() override { qApp->removeEventFilter(this); }
-
-    // The guard only keeps a broken build from hanging CI; it judges no speed.
-    bool waitForFrame()
-    {
-        const int before = paints;
-        frameStart = paints;
-        bool gaveUp = false;
-        QTimer guard;
-        guard.setSingleShot(true);
-        QObject::connect(&guard, &QTimer::timeout, [&gaveUp] { gaveUp = true; });
-        guard.start(10000);
-        while (paints == before && !gaveUp)
-            QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-        return paints != before;
-    }
-
-    // When set, the time of the first paint of each frame on this clock.
-    QElapsedTimer *clock = nullptr;
-    qint64 firstPaintAt = 0;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint && watched->isWidgetType()
-            && static_cast<QWidget *>(watched)->window() == window) {
-            if (clock && paints == frameStart)
-                firstPaintAt = clock->nsecsElapsed();
-            ++paints;
-        }
-        return false;
-    }
-
-private:
-    QWidget *window;
-    int paints = 0;
-    int frameStart = 0;
-};
 
 std::unique_ptr<lexoria> mainWindowShown()
 {

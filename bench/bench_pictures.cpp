@@ -1,132 +1,14 @@
 // Frame pacing while one gif plays on every key of the keyboard during a game, and how long a
 // key press takes to reach the screen meanwhile.
+#include "bench/framepacing.h"
 #include "lexoria/lexoria.h"
 
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QLabel>
-#include <QMovie>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTimer>
-#include <QtTest>
 
-#include <time.h>
-
-#include <algorithm>
 #include <memory>
-#include <vector>
 
-namespace {
-
-qint64 threadCpuNs()
-{
-    timespec t;
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
-    return qint64(t.tv_sec) * 1000000000 + t.tv_nsec;
-}
-
-bool shortRun()
-{
-    return qEnvironmentVariableIntValue("VORTIC_BENCH_SHORT") == 1;
-}
-
-// Times every repaint of the main window and counts the labels painted in it.
-class PaintClockApplication : public QApplication
-{
-public:
-    using QApplication::QApplication;
-
-    QWidget *watched = nullptr;
-    std::vector<qint64> paintNs;
-    std::vector<qint64> paintCpuNs;
-    long labelPaints = 0;
-
-    bool notify(QObject *receiver, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint && qobject_cast<QLabel *>(receiver))
-            ++labelPaints;
-        if (receiver != watched || event->type() != QEvent::UpdateRequest)
-            return QApplication::notify(receiver, event);
-        QElapsedTimer timer;
-        timer.start();
-        const qint64 cpu = threadCpuNs();
-        const bool handled = QApplication::notify(receiver, event);
-        paintNs.push_back(timer.nsecsElapsed());
-        paintCpuNs.push_back(threadCpuNs() - cpu);
-        return handled;
-    }
-};
-
-PaintClockApplication *paintClock()
-{
-    return static_cast<PaintClockApplication *>(qApp);
-}
-
-double percentile(std::vector<qint64> values, double p)
-{
-    if (values.empty())
-        return 0;
-    std::sort(values.begin(), values.end());
-    return values[std::min(values.size() - 1, std::size_t(p * values.size()))] / 1e6;
-}
-
-// The gap between two shots of a zero timer is how long the loop was kept from the player,
-// in wall time and in this thread's own running time (the cores are shared).
-void measurePacing(int ms)
-{
-    paintClock()->paintNs.clear();
-    paintClock()->paintCpuNs.clear();
-    paintClock()->labelPaints = 0;
-    std::vector<qint64> gaps;
-    std::vector<qint64> busy;
-    QElapsedTimer clock;
-    clock.start();
-    qint64 last = 0;
-    qint64 lastCpu = threadCpuNs();
-    QTimer idle;
-    idle.setInterval(0);
-    QObject::connect(&idle, &QTimer::timeout, [&] {
-        const qint64 now = clock.nsecsElapsed();
-        const qint64 cpu = threadCpuNs();
-        gaps.push_back(now - last);
-        busy.push_back(cpu - lastCpu);
-        last = now;
-        lastCpu = cpu;
-    });
-    idle.start();
-    QEventLoop loop;
-    QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-    idle.stop();
-
-    constexpr qint64 frameNs = 16700000;
-    auto over = [](const std::vector<qint64> &v) {
-        return std::count_if(v.begin(), v.end(), [](qint64 g) { return g > frameNs; });
-    };
-    const std::vector<qint64> &paints = paintClock()->paintNs;
-    qInfo("longest gap %.2f ms wall (%ld over 16.7 ms), %.2f ms own running (%ld over); "
-          "%zu frames, paint median %.2f ms (own running %.2f), longest %.2f ms (own running "
-          "%.2f), %.1f labels painted a frame",
-        percentile(gaps, 1.0), long(over(gaps)), percentile(busy, 1.0), long(over(busy)),
-        paints.size(), percentile(paints, 0.5), percentile(paintClock()->paintCpuNs, 0.5),
-        percentile(paints, 1.0), percentile(paintClock()->paintCpuNs, 1.0),
-        paints.empty() ? 0.0 : double(paintClock()->labelPaints) / paints.size());
-    QVERIFY(!paints.empty());
-    QTest::setBenchmarkResult(percentile(busy, 1.0) * 1e6, QTest::WalltimeNanoseconds);
-}
-
-bool waitForFrame()
-{
-    const std::size_t before = paintClock()->paintNs.size();
-    QElapsedTimer guard;
-    guard.start();
-    while (paintClock()->paintNs.size() == before && guard.elapsed() < 10000)
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-    return paintClock()->paintNs.size() != before;
-}
-
-} // namespace
+using namespace framepacing;
 
 class bench_Pictures : public QObject
 {
@@ -150,13 +32,13 @@ void bench_Pictures::init()
     window = std::make_unique<lexoria>();
     window->openLexoria();
     QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    paintClock()->watched = window.get();
+    frameClock()->watched = window.get();
     QTest::qWait(300);
 }
 
 void bench_Pictures::cleanup()
 {
-    paintClock()->watched = nullptr;
+    frameClock()->watched = nullptr;
     window.reset();
 }
 
@@ -188,34 +70,21 @@ void bench_Pictures::gifOnEveryKey()
 {
     QFETCH(QString, radio);
     layGif(radio);
-    measurePacing(shortRun() ? 1500 : 6000);
+    const Pacing pacing = measurePacing(shortRun() ? 1500 : 6000);
+    QVERIFY(pacing.frames > 0);
+    report(pacing, Judge::OwnRunningGap);
 }
 
 // A press of а, until its frame is painted, while rain plays on all 54 keys.
 void bench_Pictures::keyPressUnderAGif()
 {
     layGif("radioRain");
-    const int rounds = shortRun() ? 5 : 300;
-    std::vector<qint64> times;
-    bool painted = true;
-    for (int i = 0; i < rounds; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        QTest::keyPress(window.get(), Qt::Key_F);
-        painted = waitForFrame() && painted;
-        times.push_back(timer.nsecsElapsed());
-        QTest::keyRelease(window.get(), Qt::Key_F);
-        painted = waitForFrame() && painted;
-    }
-    QVERIFY(painted);
-    qInfo("key press until painted: median %.3f ms, range %.3f .. %.3f ms, %d rounds",
-        percentile(times, 0.5), percentile(times, 0.0), percentile(times, 1.0), rounds);
-    QTest::setBenchmarkResult(percentile(times, 0.5) * 1e6, QTest::WalltimeNanoseconds);
+    timeKeyPresses(window.get(), shortRun() ? 5 : 300);
 }
 
 int main(int argc, char **argv)
 {
-    PaintClockApplication app(argc, argv);
+    FrameClockApplication app(argc, argv);
     bench_Pictures bench;
     QTEST_SET_MAIN_SOURCE_PATH
     return QTest::qExec(&bench, argc, argv);

@@ -10,16 +10,12 @@
 #include <QtTest>
 
 #include <algorithm>
-#include <functional>
 #include <memory>
 #include <vector>
 
-namespace {
+using namespace paintwatch;
 
-bool shortRun()
-{
-    return qEnvironmentVariableIntValue("VORTIC_BENCH_SHORT") == 1;
-}
+namespace {
 
 std::unique_ptr<lexoria> mainWindowShown()
 {
@@ -40,27 +36,6 @@ int enabledShadows(const lexoria &w)
             ++count;
     }
     return count;
-}
-
-// Rounds timed one by one, each up to its painted frame; QtTest gets the median.
-void measureRounds(
-    int rounds, const std::function<void()> &setup, const std::function<void()> &body)
-{
-    if (shortRun())
-        rounds = 1;
-    std::vector<qint64> nanoseconds;
-    for (int round = 0; round < rounds; ++round) {
-        setup();
-        QElapsedTimer timer;
-        timer.start();
-        body();
-        nanoseconds.push_back(timer.nsecsElapsed());
-    }
-    std::sort(nanoseconds.begin(), nanoseconds.end());
-    qInfo("%d rounds: median %.3f ms, 10th percentile %.3f ms, range %.3f .. %.3f ms", rounds,
-        nanoseconds[rounds / 2] / 1e6, nanoseconds[rounds / 10] / 1e6, nanoseconds.front() / 1e6,
-        nanoseconds.back() / 1e6);
-    QTest::setBenchmarkResult(nanoseconds[rounds / 2], QTest::WalltimeNanoseconds);
 }
 
 enum Look { NoShadows, EveryGroupOn, ShadowsCleared };

@@ -6,7 +6,6 @@
 #include "lexoria/keycatalogue.h"
 #include "lexoria/restyle.h"
 
-#include <QFileDialog>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>

@@ -4,7 +4,6 @@
 #include "lexoria/form.h"
 
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QLabel>
 #include <QMovie>
 #include <QRadioButton>
@@ -96,14 +95,10 @@ void lexoria::finishedUploaded()
 
 void lexoria::openImageFinished_Function()
 {
-    QFileDialog dialog(this, QString(), QString(), QString());
-    dialog.setNameFilter(QStringLiteral("Images(*.gif)"));
-    effects.uploadedGifFiles.clear();
-    if (dialog.exec() == QDialog::Accepted)
-        effects.uploadedGifFiles = dialog.selectedFiles();
+    effects.uploadedGifFiles
+        = askFiles({FileQuestion::Pick, {}, {}, QStringLiteral("Images(*.gif)")});
     if (effects.uploadedGifFiles.isEmpty())
         effects.uploadedGifFiles.append(QString::fromLatin1(blankGif));
-    dialog.close();
 
     QMovie *full = effects.uploadedFullMovie;
     QMovie *preview = effects.uploadedPreviewMovie;

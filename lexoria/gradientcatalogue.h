@@ -90,6 +90,7 @@ struct SampleRow
 constexpr const char *transparent = "background-color: transparent;";
 
 enum Sample { KeysSample, KeypressSample, MouseoverSample, HighlightSample, RainbowSample };
+enum SamplePart { Face = 1, English = 2, Russian = 4, AllParts = Face | English | Russian };
 
 constexpr SampleRow samples[] = {
     {"demoLetter1Bg", "demoLetter1_2", "demoLetter2_2", "demoLetter3_2", &StylePieces::keysBgStyle,

@@ -96,20 +96,10 @@ void lexoria::setUpGradients()
         &lexoria::gamePlayCb_function);
 
     for (int sample = KeysSample; sample <= RainbowSample; ++sample) {
-        restyleSampleFace(sample);
-        restyleSampleEnglish(sample);
-        restyleSampleRussian(sample);
+        restyleSample(sample, AllParts);
     }
     restyle(ui->widget(QStringLiteral("liHordisplay")), pieces.lineHighHorizontalStyle);
     restyle(ui->widget(QStringLiteral("lhVertDisplay")), pieces.lineHighVerticalStyle);
-}
-
-bool lexoria::radioChecked(const char *name) const
-{
-    if (!name)
-        return false;
-    const auto *button = ui->find<QAbstractButton>(QLatin1String(name));
-    return button && button->isChecked();
 }
 
 // A side that is not selected keeps its piece, so each side can have a shape of its own.
@@ -156,14 +146,13 @@ void lexoria::grad(int target)
         sampleByPaintFlags();
         break;
     case Keypress:
-        restyleSampleFace(KeypressSample);
+        restyleSample(KeypressSample, Face);
         break;
     case Mouseover:
-        restyleSampleFace(MouseoverSample);
-        restyleSampleEnglish(MouseoverSample);
+        restyleSample(MouseoverSample, Face | English);
         break;
     case Highlight:
-        restyleSampleFace(HighlightSample);
+        restyleSample(HighlightSample, Face);
         restyle(ui->goldenHighlight,
             pieces.keyRadiusStyle + pieces.highlightBgStyle + pieces.highlightEnglishColorStyle);
         if (goldHighActive)
@@ -193,9 +182,7 @@ void lexoria::grad(int target)
         if (radioChecked("rainbowLowercase"))
             pieces.lowerColorStyle = colour;
         for (int sample : {RainbowSample, KeysSample}) {
-            restyleSampleFace(sample);
-            restyleSampleEnglish(sample);
-            restyleSampleRussian(sample);
+            restyleSample(sample, AllParts);
         }
         break;
     }
@@ -319,15 +306,9 @@ void lexoria::gradMain(int target)
 // The board at rest is the keys target: all faces and bar cells, the sample and the key map.
 void lexoria::restyleRestingBoard()
 {
-    const QString face = pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle;
-    restyle(ui->widget(QLatin1String(samples[KeysSample].face)),
-        pieces.demoRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle);
-    restyle(ui->aKeysMap5, face);
-    for (QLabel *label : qAsConst(keyBgLabels))
-        restyle(label, face);
-    const QString cell = pieces.barRadiusStyle + pieces.keysBgStyle;
-    for (QLabel *label : qAsConst(barBgLabels))
-        restyle(label, cell);
+    restyleSample(KeysSample, Face);
+    restyle(ui->aKeysMap5, pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle);
+    restyleKeysAtRest(true);
 }
 
 void lexoria::bgColorLoops2()
@@ -341,30 +322,24 @@ void lexoria::bgColorLoops5()
     bgColorLoops();
 }
 
-void lexoria::restyleSampleFace(int sample)
+void lexoria::restyleSample(int sample, int parts)
 {
-    const SampleRow &s = samples[sample];
-    if (QWidget *face = ui->widget(QLatin1String(s.face)))
-        restyle(face, pieces.demoRadiusStyle + pieces.*(s.bgStyle) + pieces.*(s.borderStyle));
-}
-
-void lexoria::restyleSampleEnglish(int sample)
-{
-    const SampleRow &s = samples[sample];
-    if (QWidget *english = ui->widget(QLatin1String(s.english)))
-        restyle(english,
-            QLatin1String(s.englishTransparent) + pieces.*(s.englishColor)
+    const SampleRow &row = samples[sample];
+    auto set = [this](const char *name, const QString &sheet) {
+        if (QWidget *widget = ui->widget(QLatin1String(name)))
+            restyle(widget, sheet);
+    };
+    if (parts & Face)
+        set(row.face, pieces.demoRadiusStyle + pieces.*row.bgStyle + pieces.*row.borderStyle);
+    if (parts & English)
+        set(row.english,
+            QLatin1String(row.englishTransparent) + pieces.*row.englishColor
                 + pieces.demoEnglishFontStyle + pieces.englishFontStyle);
-}
-
-void lexoria::restyleSampleRussian(int sample)
-{
-    const SampleRow &s = samples[sample];
-    const QString &demoFont = pieces.*(s.russianDemoFont);
-    if (QWidget *upper = ui->widget(QLatin1String(s.upper)))
-        restyle(upper, transparentText + pieces.*(s.upperColor) + demoFont + pieces.upperFontStyle);
-    if (QWidget *lower = ui->widget(QLatin1String(s.lower)))
-        restyle(lower, transparentText + pieces.*(s.lowerColor) + demoFont + pieces.lowerFontStyle);
+    if (parts & Russian) {
+        const QString &demoFont = pieces.*row.russianDemoFont;
+        set(row.upper, transparentText + pieces.*row.upperColor + demoFont + pieces.upperFontStyle);
+        set(row.lower, transparentText + pieces.*row.lowerColor + demoFont + pieces.lowerFontStyle);
+    }
 }
 
 void lexoria::slider_function(int target, int value)
@@ -394,12 +369,10 @@ void lexoria::slider_function(int target, int value)
         restyleRestingBoard();
         break;
     case Keypress:
-        restyleSampleFace(KeypressSample);
-        restyleSampleEnglish(KeypressSample);
+        restyleSample(KeypressSample, Face | English);
         break;
     case Mouseover:
-        restyleSampleFace(MouseoverSample);
-        restyleSampleEnglish(MouseoverSample);
+        restyleSample(MouseoverSample, Face | English);
         break;
     case Finished:
         // The finished cells of a running game follow only at the release, but a stop at an
@@ -450,12 +423,10 @@ void lexoria::swapGradient_function(int target)
         bgColorLoops();
         break;
     case Keypress:
-        restyleSampleFace(KeypressSample);
-        restyleSampleEnglish(KeypressSample);
+        restyleSample(KeypressSample, Face | English);
         break;
     case Mouseover:
-        restyleSampleFace(MouseoverSample);
-        restyleSampleEnglish(MouseoverSample);
+        restyleSample(MouseoverSample, Face | English);
         break;
     case Finished:
         set_dem_StyleSheet();

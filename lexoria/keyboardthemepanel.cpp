@@ -6,7 +6,6 @@
 #include "lexoria/restyle.h"
 
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontComboBox>
 #include <QLabel>
@@ -45,14 +44,6 @@ constexpr SliderRow sliderRows[] = {{1, &ColorTargets::keys}, {2, &ColorTargets:
 
 void lexoria::setUpKeyboardTheme()
 {
-    fileDialogs.saveFileName
-        = [](QWidget *parent, const QString &caption, const QString &path, const QString &filter) {
-              return QFileDialog::getSaveFileName(parent, caption, path, filter);
-          };
-    fileDialogs.openFileName
-        = [](QWidget *parent, const QString &caption, const QString &path, const QString &filter) {
-              return QFileDialog::getOpenFileName(parent, caption, path, filter);
-          };
     ui->find<QLabel>(QStringLiteral("keyboardThemeNote"))->setWordWrap(true);
     connect(ui->find<QPushButton>(QStringLiteral("saveKeyboard")), &QPushButton::clicked, this,
         &lexoria::saveKeyboard_Function);
@@ -187,8 +178,8 @@ void lexoria::applyKeyboardThemeTexts(const keyboardtheme::Theme &theme)
 
 void lexoria::saveKeyboard_Function()
 {
-    const QString fileName = fileDialogs.saveFileName(this, QStringLiteral("Save Keyboard"),
-        QStringLiteral("./Keyboard Theme.txt"), QStringLiteral("Text Files (*.txt)"));
+    const QString fileName = askFile({FileQuestion::Save, QStringLiteral("Save Keyboard"),
+        QStringLiteral("./Keyboard Theme.txt"), QStringLiteral("Text Files (*.txt)")});
     gatherKeyboardTheme();
     // Saving shows nothing: a failed save leaves the old file as it was.
     keyboardtheme::save(fileName, keyboardThemeFile);
@@ -196,8 +187,8 @@ void lexoria::saveKeyboard_Function()
 
 void lexoria::openKeyboard_Function()
 {
-    const QString fileName = fileDialogs.openFileName(this, QStringLiteral("Open Keyboard Theme"),
-        QStringLiteral("."), QStringLiteral("Text Files (*.txt)"));
+    const QString fileName = askFile({FileQuestion::Open, QStringLiteral("Open Keyboard Theme"),
+        QStringLiteral("."), QStringLiteral("Text Files (*.txt)")});
     currentThemeName = fileName.mid(fileName.lastIndexOf(QLatin1Char('/')) + 1);
     currentThemeName.chop(4);
     if (fileName.isEmpty())
@@ -312,9 +303,7 @@ void lexoria::restyleKeyboardSamples()
     const StylePieces &p = pieces;
     for (int sample : {gradientcatalogue::KeysSample, gradientcatalogue::KeypressSample,
              gradientcatalogue::MouseoverSample, gradientcatalogue::HighlightSample}) {
-        restyleSampleFace(sample);
-        restyleSampleEnglish(sample);
-        restyleSampleRussian(sample);
+        restyleSample(sample, gradientcatalogue::AllParts);
     }
     restyleNamed("aKeysMap5", p.keyRadiusStyle + p.keysBgStyle + p.keysBorderStyle);
     // The map's letters keep the sizes they were drawn for; only colour and family follow.

@@ -20,6 +20,7 @@
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QCoreApplication>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
@@ -266,4 +267,26 @@ void lexoria::closeEvent(QCloseEvent *event)
     // An open picker is a window of its own and would keep the program running.
     closePickers();
     event->accept();
+}
+
+void lexoria::setFileAsker(FileAsker asker)
+{
+    fileAsker = std::move(asker);
+}
+
+// One dialog for every kind of question: Qt's own getOpenFileName and getSaveFileName build
+// the same dialog from the same arguments.
+QStringList lexoria::askFiles(const FileQuestion &question)
+{
+    if (fileAsker)
+        return fileAsker(question);
+    static constexpr QFileDialog::FileMode modes[] = {QFileDialog::AnyFile,
+        QFileDialog::ExistingFile, QFileDialog::AnyFile, QFileDialog::ExistingFiles};
+    QFileDialog dialog(this, question.caption, question.path, question.filter);
+    dialog.setFileMode(modes[question.kind]);
+    if (question.kind == FileQuestion::Save)
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+    if (dialog.exec() == QDialog::Accepted)
+        return dialog.selectedFiles();
+    return {};
 }

@@ -335,13 +335,14 @@ private:
     void openPickerUnderMouse();
     void setUpPickerSwatches();
     void turnPaintOn(bool withBorder);
-    bool radioChecked(const char *name, bool whenMissing) const;
+    // A button missing from this build counts as whenMissing, as does a row without one.
+    bool radioChecked(const char *name, bool whenMissing = false) const;
     QList<ColourSet> selectedSides(int target);
     bool &gradOpened(int target);
     void baseColour(int target, const QColor &color, BaseRule rule);
     void topColour(int target, const QColor &color);
     void topFromBase(int target, bool radialToo);
-    void restyleKeysAtRest();
+    void restyleKeysAtRest(bool finishedToo = false);
     void restyleSample(int sample, int parts);
     void stepListA();
     void stepListB();
@@ -356,14 +357,6 @@ public:
     void saveKeyboard_Function();
     void openKeyboard_Function();
     void loadKeyboard();
-    // The theme panels ask for file names through these; tests answer without a dialog.
-    using FileNameDialog = std::function<QString(
-        QWidget *parent, const QString &caption, const QString &path, const QString &filter)>;
-    struct FileDialogs
-    {
-        FileNameDialog saveFileName;
-        FileNameDialog openFileName;
-    } fileDialogs;
 
 private:
     // The tests stand in for the colour pickers, which write the targets' colours.
@@ -373,12 +366,8 @@ private:
     void applyLineHighlight();
     void gamePlayFields();
     void restyleRestingBoard();
-    void restyleSampleFace(int sample);
-    void restyleSampleEnglish(int sample);
-    void restyleSampleRussian(int sample);
     void sampleByPaintFlags();
     void pulsateTick();
-    bool radioChecked(const char *name) const;
 
     // Animate Gradient swings the game play stop to and fro by the float steps it always took.
     struct Pulsate
@@ -402,15 +391,17 @@ public:
     void loadPaint1();
     void loadPaint2();
     void loadPaint3();
-    // What a theme panel asks the user for; a test answers in place of the file dialog.
+    // Every file the window asks the user for goes through one question; a test answers in
+    // place of the dialog. Pick takes any typed name, as the picture and gif buttons always did.
     struct FileQuestion
     {
-        bool save;
+        enum Kind { Save, Open, Pick, OpenMany } kind;
         QString caption;
         QString path;
         QString filter;
     };
-    using FileAsker = std::function<QString(const FileQuestion &)>;
+    // An empty list is a cancelled dialog.
+    using FileAsker = std::function<QStringList(const FileQuestion &)>;
     void setFileAsker(FileAsker asker);
 
 public slots:
@@ -437,11 +428,6 @@ public slots:
     void mainStretchToFit();
     void mainAlign();
     void xRayVisionPhotos();
-
-public:
-    // Asks the player for picture files with the given name filter; an empty list is a
-    // cancelled dialog. Tests put their own answer here instead of a modal dialog.
-    std::function<QStringList(const QString &nameFilter)> chooseImageFiles;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -509,7 +495,6 @@ private:
     void clearPictureSlot(int target);
     void markPictureTarget(int target, bool ownPicture);
     void resizePictures(bool fit);
-    QStringList askForImageFiles(const QString &nameFilter);
     void showWallpaperPicture();
     void pictureControlClicked();
     bool fadeChosen() const;
@@ -637,8 +622,10 @@ private:
         painttheme::Theme texts;
         QString currentThemeName;
         QString lastThemeName;
-        FileAsker askFile;
     } paintFile;
+    FileAsker fileAsker;
+    QStringList askFiles(const FileQuestion &question);
+    QString askFile(const FileQuestion &question) { return askFiles(question).value(0); }
 
     // Pictures behind the letters of the keys; the "On" flags are "1" or "0", empty counts as off.
     struct Pictures

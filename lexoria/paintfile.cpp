@@ -7,7 +7,6 @@
 
 #include <QComboBox>
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
@@ -50,16 +49,6 @@ void lexoria::setUpPaintFile()
         connect(save, &QPushButton::clicked, this, &lexoria::savePaint_Function);
     if (auto *open = ui->find<QPushButton>(QStringLiteral("openPaint")))
         connect(open, &QPushButton::clicked, this, &lexoria::openPaint_Function);
-    paintFile.askFile = [this](const FileQuestion &question) {
-        return question.save
-            ? QFileDialog::getSaveFileName(this, question.caption, question.path, question.filter)
-            : QFileDialog::getOpenFileName(this, question.caption, question.path, question.filter);
-    };
-}
-
-void lexoria::setFileAsker(FileAsker asker)
-{
-    paintFile.askFile = std::move(asker);
 }
 
 void lexoria::gatherPaintTheme()
@@ -113,7 +102,7 @@ void lexoria::gatherPaintTheme()
 
 void lexoria::savePaint_Function()
 {
-    const QString name = paintFile.askFile({true, QStringLiteral("Save Paint"),
+    const QString name = askFile({FileQuestion::Save, QStringLiteral("Save Paint"),
         QStringLiteral("./Paint Theme.txt"), QStringLiteral("Text Files (*.txt)")});
     gatherPaintTheme();
     if (name.isEmpty())
@@ -125,7 +114,7 @@ void lexoria::savePaint_Function()
 
 void lexoria::openPaint_Function()
 {
-    const QString name = paintFile.askFile({false, QStringLiteral("Open Paint Theme"),
+    const QString name = askFile({FileQuestion::Open, QStringLiteral("Open Paint Theme"),
         QStringLiteral("."), QStringLiteral("Text Files (*.txt)")});
     QString &current = paintFile.currentThemeName;
     if (name.isEmpty()) {

@@ -1,6 +1,7 @@
 #include "lexoria/lexoria.h"
 
 #include "lexoria/form.h"
+#include "lexoria/gradientcatalogue.h"
 #include "lexoria/keycatalogue.h"
 #include "lexoria/restyle.h"
 
@@ -16,57 +17,19 @@
 #include <iterator>
 
 using namespace keycatalogue;
+using gradientcatalogue::AllParts;
+using gradientcatalogue::English;
+using gradientcatalogue::Face;
+using gradientcatalogue::HighlightSample;
+using gradientcatalogue::KeypressSample;
+using gradientcatalogue::KeysSample;
+using gradientcatalogue::MouseoverSample;
+using gradientcatalogue::RainbowSample;
+using gradientcatalogue::Russian;
 
 namespace {
 
 const QString transparent = QStringLiteral("background-color: transparent;");
-
-// The sample key of each colour tab: a face and three letters, each assembled from the pieces
-// of the state the tab colours.
-enum Sample { KeysSample, KeypressSample, MouseoverSample, HighlightSample, RainbowSample };
-enum SamplePart { Face = 1, English = 2, Russian = 4, AllParts = Face | English | Russian };
-
-struct SampleRow
-{
-    const char *face;
-    const char *english;
-    const char *upper;
-    const char *lower;
-    QString StylePieces::*bg;
-    QString StylePieces::*border;
-    QString StylePieces::*englishColour;
-    QString StylePieces::*upperColour;
-    QString StylePieces::*lowerColour;
-    QString StylePieces::*russianDemoFont;
-    const char *englishLead;
-};
-
-constexpr SampleRow samples[] = {
-    {"demoLetter1Bg", "demoLetter1_2", "demoLetter2_2", "demoLetter3_2", &StylePieces::keysBgStyle,
-        &StylePieces::keysBorderStyle, &StylePieces::englishColorStyle,
-        &StylePieces::upperColorStyle, &StylePieces::lowerColorStyle,
-        &StylePieces::demoUpperFontStyle, "background-color: transparent;"},
-    {"demoLetterCenterBG", "demoLetter1", "demoLetter2", "demoLetter3",
-        &StylePieces::keypressBgStyle, &StylePieces::keypressBorderStyle,
-        &StylePieces::keypressEnglishColorStyle, &StylePieces::keypressRussianColorStyle,
-        &StylePieces::keypressRussianColorStyle, &StylePieces::demoUpperFontStyle,
-        "background-color: transparent; "},
-    {"demoLetterRightBg", "demoLetter1_3", "demoLetter2_3", "demoLetter3_3",
-        &StylePieces::mouseoverBgStyle, &StylePieces::mouseoverBorderStyle,
-        &StylePieces::mouseoverEnglishColorStyle, &StylePieces::mouseoverRussianColorStyle,
-        &StylePieces::mouseoverRussianColorStyle, &StylePieces::demoUpperFontStyle,
-        "background-color: transparent;"},
-    {"demoLetterHiBg", "demoLetterHiE", "demoLetterHiUpD", "demoLetterHiLowD",
-        &StylePieces::highlightBgStyle, &StylePieces::highlightBorderStyle,
-        &StylePieces::highlightEnglishColorStyle, &StylePieces::highlightRussianColorStyle,
-        &StylePieces::highlightRussianColorStyle, &StylePieces::demoLowerFontStyle,
-        "background-color: transparent;"},
-    {"demoLetter4Bg", "demoLetter4English", "demoLetter4UpperCase", "demoLetter4LowerCase",
-        &StylePieces::rainbowBgStyle, &StylePieces::rainbowBorderStyle,
-        &StylePieces::englishColorStyle, &StylePieces::upperColorStyle,
-        &StylePieces::lowerColorStyle, &StylePieces::demoUpperFontStyle,
-        "background-color: transparent;"},
-};
 
 // Pickers stand on screen in this order when several are open: each newly opened one comes
 // up under those already there only if it is earlier in the list.
@@ -513,9 +476,9 @@ void lexoria::enableColor(int N)
         return;
     allRise();
     if (N == 24) {
-        if (radioChecked("rainbowBackground", false))
+        if (radioChecked("rainbowBackground"))
             dialog->setWindowTitle(QStringLiteral("Rainbow Background Gradient 2"));
-        if (radioChecked("rainbowBorder", false))
+        if (radioChecked("rainbowBorder"))
             dialog->setWindowTitle(QStringLiteral("Rainbow Border Gradient 2"));
         pickerState.paintingWithGradient = true;
     }
@@ -610,7 +573,7 @@ void lexoria::setUpPickerSwatches()
 
 bool lexoria::radioChecked(const char *name, bool whenMissing) const
 {
-    const auto *button = ui->find<QAbstractButton>(QLatin1String(name));
+    const auto *button = name ? ui->find<QAbstractButton>(QLatin1String(name)) : nullptr;
     return button ? button->isChecked() : whenMissing;
 }
 
@@ -625,7 +588,7 @@ QList<lexoria::ColourSet> lexoria::selectedSides(int target)
         QList<ColourSet> sides;
         if (radioChecked(bg, true))
             sides.append(setOf(t.bg));
-        if (radioChecked(border, false))
+        if (radioChecked(border))
             sides.append(setOf(t.border));
         return sides;
     };
@@ -641,10 +604,10 @@ QList<lexoria::ColourSet> lexoria::selectedSides(int target)
     case 5:
         return {setOf(targets.finished.bg)};
     case 6:
-        if (radioChecked("lhVerticalRadio", false) || radioChecked("lhBothRadio", true))
+        if (radioChecked("lhVerticalRadio") || radioChecked("lhBothRadio", true))
             return {{&pieces.lineVerticalColor, &pieces.lineVerticalGradColor,
                 &pieces.lineVerticalRadialColor, &pieces.lineVerticalRadialGradColor}};
-        if (radioChecked("lhHorizontalRadio", false))
+        if (radioChecked("lhHorizontalRadio"))
             return {{&pieces.lineHorizontalColor, &pieces.lineHorizontalGradColor,
                 &pieces.lineHorizontalRadialColor, &pieces.lineHorizontalRadialGradColor}};
         return {};
@@ -653,10 +616,10 @@ QList<lexoria::ColourSet> lexoria::selectedSides(int target)
                                                                 : targets.wallpaper.border)};
     case 8: {
         QList<ColourSet> sides;
-        if (radioChecked("rainbowBackground", true) || radioChecked("rainbowEnglish", false)
-            || radioChecked("rainbowLowercase", false) || radioChecked("rainbowUppercase", false))
+        if (radioChecked("rainbowBackground", true) || radioChecked("rainbowEnglish")
+            || radioChecked("rainbowLowercase") || radioChecked("rainbowUppercase"))
             sides.append(setOf(targets.rainbow.bg));
-        if (radioChecked("rainbowBorder", false))
+        if (radioChecked("rainbowBorder"))
             sides.append(setOf(targets.rainbow.border));
         return sides;
     }
@@ -736,40 +699,18 @@ void lexoria::topFromBase(int target, bool radialToo)
     }
 }
 
-// The faces and bar cells of every key at rest; finished cells keep the finished look, which
-// the game refresh would give back to them anyway.
-void lexoria::restyleKeysAtRest()
+// The faces and bar cells of every key at rest. A picker leaves finished cells their finished
+// look, which the game refresh would give back to them anyway; the gradient tab paints over
+// them as it always has.
+void lexoria::restyleKeysAtRest(bool finishedToo)
 {
     const QString face = pieces.keyRadiusStyle + pieces.keysBgStyle + pieces.keysBorderStyle;
     for (QLabel *label : qAsConst(keyBgLabels))
         restyle(label, face);
     const QString cell = pieces.barRadiusStyle + pieces.keysBgStyle;
     for (int n = 1; n <= letterCount; ++n) {
-        if (!letterDone[n])
+        if (finishedToo || !letterDone[n])
             restyle(barBgLabels[n - 1], cell);
-    }
-}
-
-void lexoria::restyleSample(int sample, int parts)
-{
-    const SampleRow &row = samples[sample];
-    auto set = [this](const char *name, const QString &sheet) {
-        if (QWidget *widget = ui->widget(QLatin1String(name)))
-            restyle(widget, sheet);
-    };
-    if (parts & Face)
-        set(row.face, pieces.demoRadiusStyle + pieces.*row.bg + pieces.*row.border);
-    if (parts & English)
-        set(row.english,
-            QLatin1String(row.englishLead) + pieces.*row.englishColour + pieces.demoEnglishFontStyle
-                + pieces.englishFontStyle);
-    if (parts & Russian) {
-        set(row.upper,
-            transparent + pieces.*row.upperColour + pieces.*row.russianDemoFont
-                + pieces.upperFontStyle);
-        set(row.lower,
-            transparent + pieces.*row.lowerColour + pieces.*row.russianDemoFont
-                + pieces.lowerFontStyle);
     }
 }
 
@@ -847,9 +788,9 @@ void lexoria::turnPaintOn(bool withBorder)
 void lexoria::textColourOfGamePlay(const QColor &color, const char *lead)
 {
     const QString piece = textColour(lead, rgbaText(color), ";");
-    if (radioChecked("matchThisCm", false)) {
+    if (radioChecked("matchThisCm")) {
         pieces.matchTextColorStyle = piece;
-    } else if (radioChecked("yourEntryCm", false)) {
+    } else if (radioChecked("yourEntryCm")) {
         pieces.userTextColorStyle = piece;
     } else {
         pieces.matchTextColorStyle = piece;
@@ -857,7 +798,7 @@ void lexoria::textColourOfGamePlay(const QColor &color, const char *lead)
     }
     set_Match_StyleSheet();
     set_User_StyleSheet();
-    if (!radioChecked("gamePlayCb", false))
+    if (!radioChecked("gamePlayCb"))
         return;
     if (QWidget *header = ui->widget(QStringLiteral("matchThis")))
         restyle(header,

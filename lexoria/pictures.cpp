@@ -5,7 +5,6 @@
 #include "lexoria/restyle.h"
 
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QLabel>
 #include <QMovie>
 #include <QPushButton>
@@ -115,17 +114,6 @@ void lexoria::connectPictures()
     }
     connect(ui->xRayVision, &QCheckBox::clicked, this, &lexoria::xRayVisionPhotos);
     mainAlign();
-}
-
-QStringList lexoria::askForImageFiles(const QString &nameFilter)
-{
-    if (chooseImageFiles)
-        return chooseImageFiles(nameFilter);
-    QFileDialog dialog(this, QString(), QString(), QString());
-    dialog.setNameFilter(nameFilter);
-    if (dialog.exec() == QDialog::Accepted)
-        return dialog.selectedFiles();
-    return {};
 }
 
 QSize lexoria::pictureFitSize(int target) const
@@ -276,7 +264,7 @@ void lexoria::openPicture(int target)
     }
     markPictureTarget(target, true);
 
-    const QStringList files = askForImageFiles(QLatin1String(pictureFilter));
+    const QStringList files = askFiles({FileQuestion::Pick, {}, {}, QLatin1String(pictureFilter)});
     if (files.isEmpty()) {
         clearPictureSlot(target);
         ui->radioNone->setChecked(true);
@@ -381,7 +369,7 @@ void lexoria::showWallpaperPicture()
 
 void lexoria::openImageMain_Function()
 {
-    const QStringList files = askForImageFiles(QLatin1String(pictureFilter));
+    const QStringList files = askFiles({FileQuestion::Pick, {}, {}, QLatin1String(pictureFilter)});
     QString path = files.value(0);
     if (!path.isEmpty() && firstFrame(path).isNull())
         return;

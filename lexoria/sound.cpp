@@ -6,7 +6,6 @@
 
 #include <QCheckBox>
 #include <QEvent>
-#include <QFileDialog>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -162,12 +161,7 @@ bool lexoria::previewSound(QObject *watched, QEvent *event)
 // Cancelling leaves silence as the upload, so that choosing "Uploaded" still has a file.
 QStringList lexoria::chooseWaveFiles()
 {
-    QFileDialog dialog(this);
-    dialog.setNameFilter(QStringLiteral("Audio(*wav)"));
-    dialog.setFileMode(QFileDialog::ExistingFiles);
-    QStringList files;
-    if (dialog.exec() == QDialog::Accepted)
-        files = dialog.selectedFiles();
+    QStringList files = askFiles({FileQuestion::OpenMany, {}, {}, QStringLiteral("Audio(*wav)")});
     if (files.isEmpty())
         files.append(silenceSound);
     return files;

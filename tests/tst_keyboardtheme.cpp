@@ -33,10 +33,9 @@ private slots:
         dir = std::make_unique<QTemporaryDir>();
         QVERIFY(dir->isValid());
         // Nothing of this test may ever reach a real dialog.
-        window->fileDialogs.saveFileName = window->fileDialogs.openFileName
-            = [](QWidget *, const QString &, const QString &, const QString &) -> QString {
+        window->setFileAsker([](const lexoria::FileQuestion &) -> QStringList {
             qFatal("a file dialog was opened");
-        };
+        });
     }
     void cleanup()
     {
@@ -58,21 +57,19 @@ private:
     QString save(const QString &name)
     {
         const QString path = name.isEmpty() ? QString() : dir->filePath(name);
-        window->fileDialogs.saveFileName = [this, path](QWidget *, const QString &caption,
-                                               const QString &start, const QString &filter) {
-            asked = QStringList {caption, start, filter};
-            return path;
-        };
+        window->setFileAsker([this, path](const lexoria::FileQuestion &question) {
+            asked = QStringList {question.caption, question.path, question.filter};
+            return QStringList {path};
+        });
         game->click(QStringLiteral("saveKeyboard"));
         return path;
     }
     void open(const QString &path)
     {
-        window->fileDialogs.openFileName = [this, path](QWidget *, const QString &caption,
-                                               const QString &start, const QString &filter) {
-            asked = QStringList {caption, start, filter};
-            return path;
-        };
+        window->setFileAsker([this, path](const lexoria::FileQuestion &question) {
+            asked = QStringList {question.caption, question.path, question.filter};
+            return QStringList {path};
+        });
         game->click(QStringLiteral("openKeyboard"));
     }
     // The default theme with some lines replaced, written where the test can open it.

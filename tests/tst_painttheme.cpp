@@ -65,7 +65,7 @@ private slots:
         makeWindow(Start::Built);
         window->setFileAsker([this](const lexoria::FileQuestion &question) {
             questions.append(question);
-            return answer;
+            return QStringList {answer};
         });
         dir = std::make_unique<QTemporaryDir>();
         questions.clear();

@@ -90,10 +90,10 @@ QString tst_Pictures::makeFile(const QString &name, const QByteArray &bytes)
 
 void tst_Pictures::answer(const QString &file)
 {
-    window->chooseImageFiles = [this, file](const QString &filter) {
-        filtersAsked.append(filter);
+    window->setFileAsker([this, file](const lexoria::FileQuestion &question) {
+        filtersAsked.append(question.filter);
         return file.isEmpty() ? QStringList() : QStringList {file};
-    };
+    });
 }
 
 void tst_Pictures::suppliedGifOnEachTarget_data()

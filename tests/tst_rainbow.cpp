@@ -18,7 +18,7 @@ private slots:
     {
         makeWindow(Start::Shown);
         window->setFileAsker(
-            [this](const lexoria::FileQuestion &) { return dir.filePath("t.txt"); });
+            [this](const lexoria::FileQuestion &) { return QStringList {dir.filePath("t.txt")}; });
     }
     void cleanup() { closeWindow(); }
 
